@@ -1,0 +1,104 @@
+#pragma once
+
+// The Qt side of a window handle. Private to the platform layer.
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+#include <memory>
+
+#include "platform/messages.h"
+#include "platform/wnd.h"
+
+/// What a control is to a person; the texts are the value of its "controlKind" property.
+enum class ControlKind {
+  Dialog,
+  Label,      // "label"
+  Separator,  // "separator"
+  Picture,    // "picture"
+  Frame,      // "frame"
+  Check,      // "check"
+  Radio,      // "radio"
+  Push,       // "push"
+  Image,      // "image"
+  Colour,     // "colour"
+  Edit,       // "edit"
+  Combo,      // "combo"
+  ListBox,    // "listbox"
+  List,       // "list"
+  Tree,       // "tree"
+  Slider,     // "slider"
+};
+
+/// One window: its widget, the object attached to it, and what its template said. Owned by the
+/// window table until its window is destroyed; the widget dies a little later, when the event loop
+/// is reached again, so that it may be destroyed during its own message.
+struct Peer {
+  virtual ~Peer() = default;
+
+  HWND handle = nullptr;
+  HWND parent = nullptr;  ///< The dialog that holds a control, or the parent of a child dialog.
+  QPointer<QWidget> widget;
+  CWnd* attached = nullptr;          ///< Set by SubclassDlgItem and by dialogs; not owned.
+  std::unique_ptr<CWnd> temporary;   ///< Stands in where nothing is attached.
+  ControlKind kind = ControlKind::Dialog;
+  const wchar_t* className = L"";
+  int id = 0;
+  UINT templateId = 0;  ///< Of the dialog itself, or of the dialog that holds the control.
+  int order = 0;        ///< Place in template order; run-time controls count on.
+  DWORD style = 0;
+  DWORD exStyle = 0;
+  bool toolTips = false;
+
+  /// The window's own behaviour, last resort of every message.
+  virtual LRESULT DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam);
+  virtual std::wstring Text() const;
+  virtual void SetText(const std::wstring& text);
+  virtual void SetFont(const QFont& font);
+};
+
+/// Null for a stale handle.
+Peer* FindPeer(HWND window);
+/// Null for a widget that is no window of this layer.
+Peer* FindPeer(const QWidget* widget);
+/// The peer of a control class' own kind; null when the window is stale or of another kind.
+template <class Kind>
+Kind* FindPeerAs(HWND window) {
+  return dynamic_cast<Kind*>(FindPeer(window));
+}
+
+/// Enters a peer with its widget into the table, sets its handle, the widget's properties
+/// (controlNumber, templateNumber, templateOrder, controlKind) and object name
+/// "<template>/<control>", and lets the widget's events become messages. The table owns the peer.
+HWND RegisterPeer(std::unique_ptr<Peer> peer);
+
+/// Sets the kind and its property, as when a class is attached that shows itself as something else.
+void SetPeerKind(Peer& peer, ControlKind kind);
+
+/// Destroys the window and its descendants: WM_DESTROY, then the handles become stale, then the
+/// widget is hidden and deleted at the next turn of the event loop.
+void DestroyPeer(HWND window);
+
+/// Sends WM_COMMAND with that notification code to the control's parent.
+LRESULT NotifyCommand(const Peer& peer, UINT code);
+/// Fills the header and sends WM_NOTIFY to the control's parent.
+LRESULT NotifyParent(const Peer& peer, NMHDR& header, UINT code);
+
+/// Offers a key-down to the PreTranslateMessage of the window and of its parents up to the dialog.
+/// True when one of them took it; the window may be gone then.
+bool PreTranslateKey(HWND window, UINT virtualKey);
+/// The virtual key of a Qt key; 0 for one that has none here.
+UINT VirtualKey(int qtKey);
+
+/// Makes the peer and widget of a standard window class (compared without regard to case) inside
+/// `parent`; null for an unknown class. The caller places, registers and shows it.
+std::unique_ptr<Peer> MakeControlPeer(const std::wstring& className, DWORD style,
+                                      const std::wstring& text, QWidget* parent);
+
+/// Shows a dialog's text marks ("&") as Qt does; a text with a line break keeps it.
+QString ToQt(std::wstring_view text);
+std::wstring FromQt(const QString& text);
+
+/// Qt's font of a CFont; the interface font when it is empty.
+QFont ToQtFont(const CFont& font);
+CFont FromQtFont(const QFont& font);

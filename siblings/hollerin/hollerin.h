@@ -1,0 +1,48 @@
+#pragma once
+
+// The functions that the configuration-store library exports. Out-parameters are filled on success
+// only; statuses are HRESULTs, negative on failure.
+
+#include <memory>
+#include <string>
+
+#include "ifc/config_data_mgr.h"
+#include "ifc/global_mgr.h"
+#include "ifc/interpreter_list_mgr.h"
+#include "ifc/language_mgr.h"
+#include "platform/types.h"
+
+namespace HOLLERIN {
+
+using StoreHandle = std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>;
+
+/// The process-wide global manager; also hands out the language manager, which stays empty when no
+/// language could be loaded.
+std::shared_ptr<INTERNAL_IFC::IGlobalMgr> GetGlobalMgr(
+    std::shared_ptr<RES::ILanguageMgr>* language);
+
+/// An empty store without a file.
+HRESULT CreateBlankConfigDataMgr(StoreHandle* store);
+/// The shipped default configuration.
+HRESULT LoadMainDefaultConfiguration(StoreHandle* store);
+/// The shipped default master configuration.
+HRESULT CreateDefaultMasterConfiguration(StoreHandle* store, bool portable);
+/// The application's master configuration.
+HRESULT GetGlobalMasterConfiguration(StoreHandle* store);
+
+/// Nonzero when the application runs as a portable installation.
+int IsPortableInstall();
+/// The application folder, ending in a separator.
+HRESULT GetAppPath(std::wstring* folder);
+/// The folder of the language files, ending in a separator.
+HRESULT GetLangFileLocation(std::wstring* folder);
+
+/// Replaces every placeholder text ("{n}") of the dialog's controls, and its caption where the
+/// language has one for it. S_OK without a language manager; E_FAIL when the window is gone.
+HRESULT TranslateDialog(int dialog, HWND window);
+HRESULT TranslateMenu(int menu, HMENU handle);
+
+HRESULT CreateConfigInterpreterListMgr(
+    std::shared_ptr<INTERNAL_IFC::IConfigInterpreterListMgr>* manager);
+
+}  // namespace HOLLERIN

@@ -40,7 +40,11 @@ class CBCGPDialog : public CDialog {
   bool visualManagerStyle_ = false;
 };
 
-class CBCGPStatic : public CStatic {};
+class CBCGPStatic : public CStatic {
+ protected:
+  /// Makes the static known as a section heading, as which the class draws it.
+  void MarkAsSeparator();
+};
 class CBCGPEdit : public CEdit {};
 class CBCGPTreeCtrl : public CTreeCtrl {};
 
@@ -98,7 +102,8 @@ class CBCGPColorButton : public CBCGPButton {
   virtual void OnDrawFace(CDC* dc, const CRect& rect, UINT state);
 
  private:
-  friend class ColorButtonPeer;
+  friend class ButtonPainter;
+  friend class ColourPalette;
   COLORREF colour_ = 0;
   CString other_;
 };

@@ -34,14 +34,19 @@ class CEdit : public CWnd {
 /// Row numbers are 0-based; CB_ERR stands for none.
 constexpr int CB_ERR = -1;
 
+/// A combo box. What changes its rows or its selection from the program sends no notification.
 class CComboBox : public CWnd {
  public:
   /// Appends the row, or puts it in its place when the combo sorts; its row number.
   int AddString(const CString& text);
   int InsertString(int row, const CString& text);
-  int DeleteString(UINT row);
-  void ResetContent();
+  /// The number of rows left, or CB_ERR. A deleted selection leaves none.
+  virtual int DeleteString(UINT row);
+  /// Removes all rows and empties the edit part.
+  virtual void ResetContent();
   int GetCount() const;
+  /// While the list is dropped, the row highlighted in it; otherwise the selected row, which a text
+  /// typed into the edit part replaces by none.
   int GetCurSel() const;
   /// Selects a row without telling the parent; -1 selects none. CB_ERR when there is no such row.
   int SetCurSel(int row);
@@ -53,6 +58,7 @@ class CComboBox : public CWnd {
   int FindStringExact(int startAfter, const CString& text) const;
 
   BOOL GetDroppedState() const;
+  /// Drops the list, or closes it without a choice.
   void ShowDropDown(BOOL show = TRUE);
   /// Least width of the dropped list in pixels.
   int SetDroppedWidth(UINT width);
@@ -62,8 +68,30 @@ class CComboBox : public CWnd {
   /// The selection in the edit part, start in the low word and end in the high word; CB_ERR when
   /// there is no edit part.
   DWORD GetEditSel() const;
+  /// Selects characters of the edit part with the caret at `end`; -1 for `end` is the text's end,
+  /// -1 for `start` selects nothing. FALSE when there is no edit part.
   BOOL SetEditSel(int start, int end);
+
+  /// Width of a text in the combo's font in pixels.
+  int GetTextWidth(const CString& text) const;
+
+ protected:
+  /// Sees each of the combo's own notifications (CBN_...) before the parent does; TRUE keeps it
+  /// from the parent. `previous` is the row that was selected before the user's change.
+  virtual BOOL OnReflectedNotification(UINT code, int previous);
+  /// Sends the parent a notification as the combo itself does, past OnReflectedNotification.
+  LRESULT SendNotification(UINT code);
+  /// Selects a row as the user does: CBN_SELCHANGE follows when that is a change.
+  void ChooseRow(int row);
+
+ private:
+  friend class ComboPeer;
 };
+
+constexpr int SM_CXVSCROLL = 2;
+
+/// A measure of the screen's controls in pixels: the width of a vertical scroll bar.
+int GetSystemMetrics(int index);
 
 class CSliderCtrl : public CWnd {
  public:

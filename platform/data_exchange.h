@@ -23,7 +23,7 @@ class CDataExchange {
   [[noreturn]] void Fail();
 
  private:
-  CWnd* last_ = nullptr;
+  HWND last_ = nullptr;
   bool lastIsEdit_ = false;
 };
 

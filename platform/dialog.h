@@ -33,8 +33,6 @@ class CDialog : public CWnd {
   /// UpdateData(TRUE), then the end with IDOK; an exchange that fails keeps the dialog open.
   virtual void OnOK();
   virtual void OnCancel();
-  BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
-  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   void OnOKCommand() { OnOK(); }
   void OnCancelCommand() { OnCancel(); }
@@ -44,6 +42,7 @@ class CDialog : public CWnd {
   LRESULT OnInitDialogMessage(WPARAM wParam, LPARAM lParam);
   LRESULT OnCloseMessage(WPARAM wParam, LPARAM lParam);
 
+  friend class ModalRun;
   UINT templateId_;
   CWnd* parent_;
   class ModalRun* run_ = nullptr;

@@ -38,6 +38,7 @@ class CFont {
   int GetHeight() const;
 
   struct Implementation;
+  explicit CFont(std::shared_ptr<const Implementation> implementation);
   const Implementation* Get() const { return implementation_.get(); }
 
  private:
@@ -51,14 +52,18 @@ constexpr UINT DT_WORDBREAK = 0x0010;
 constexpr UINT DT_SINGLELINE = 0x0020;
 constexpr UINT DT_END_ELLIPSIS = 0x8000;
 
-/// A drawing surface, valid inside the message it came with. Mnemonic marks ("&") are not shown.
+/// A drawing surface, valid inside the message it came with; where its window is gone nothing is
+/// drawn. Mnemonic marks ("&") are not shown.
 class CDC {
  public:
   virtual ~CDC();
+  CDC(const CDC&) = delete;
+  CDC& operator=(const CDC&) = delete;
 
   /// Chooses the font of the texts drawn from here on.
   void SelectFont(const CFont& font);
   void SetTextColor(COLORREF colour);
+  /// Draws inside the rectangle. DT_VCENTER and DT_END_ELLIPSIS need DT_SINGLELINE.
   void DrawText(const CString& text, const CRect& rect, UINT format);
   void FillSolidRect(const CRect& rect, COLORREF colour);
   CSize GetTextExtent(const CString& text) const;
@@ -76,6 +81,7 @@ class CPaintDC : public CDC {
   explicit CPaintDC(CWnd* window);
 };
 
+/// A system colour (COLOR_WINDOW ...) of the user's theme; black for an unknown number.
 COLORREF GetSysColor(int index);
 
 constexpr int LOGPIXELSX = 88;
@@ -83,7 +89,7 @@ constexpr int BITSPIXEL = 12;
 constexpr int PLANES = 14;
 
 /// A capability of the screen that shows the active window: logical pixels per inch, bits per
-/// pixel, planes.
+/// pixel, planes; 0 for an unknown one.
 int GetScreenCaps(int index);
 
 /// An image read from a PNG resource.
@@ -117,9 +123,12 @@ class CImageList {
   CImageList(const CImageList&) = delete;
   CImageList& operator=(const CImageList&) = delete;
 
+  /// Starts an empty list of images of cx by cy pixels; FALSE when a side is not positive. The
+  /// colour depth in `flags` is the least that is asked for: images keep all their colours and
+  /// their transparency. The counts only tell how much memory to expect.
   BOOL Create(int cx, int cy, UINT flags, int initial, int grow);
   /// Cuts a strip into images of the list's width and appends them; the index of the first one,
-  /// -1 when the strip is empty.
+  /// -1 when the strip does not hold one image.
   int Add(const CBCGPPngImage& strip);
   int GetImageCount() const;
   CSize GetImageSize() const;

@@ -23,13 +23,13 @@ struct RECT {
 
 struct CPoint : POINT {
   CPoint() = default;
-  CPoint(int x, int y) : POINT{x, y} {}
+  CPoint(int px, int py) : POINT{px, py} {}
   bool operator==(const CPoint& other) const { return x == other.x && y == other.y; }
 };
 
 struct CSize : SIZE {
   CSize() = default;
-  CSize(int cx, int cy) : SIZE{cx, cy} {}
+  CSize(int width, int height) : SIZE{width, height} {}
   /// The packed pair of a size message: width in the low 16 bits, height in the next, signed.
   explicit CSize(DWORD packed)
       : SIZE{static_cast<std::int16_t>(packed & 0xFFFFU), static_cast<std::int16_t>(packed >> 16)} {}
@@ -38,7 +38,7 @@ struct CSize : SIZE {
 
 struct CRect : RECT {
   CRect() = default;
-  CRect(int left, int top, int right, int bottom) : RECT{left, top, right, bottom} {}
+  CRect(int l, int t, int r, int b) : RECT{l, t, r, b} {}
   CRect(const RECT& rect) : RECT(rect) {}
   int Width() const { return right - left; }
   int Height() const { return bottom - top; }

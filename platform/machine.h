@@ -8,11 +8,14 @@
 #include <string>
 #include <string_view>
 
+constexpr const char* kPortableMark = "portable";
+
 class Machine {
  public:
   virtual ~Machine();
 
-  /// Whether the application runs as a portable installation.
+  /// Whether the application runs as a portable installation: a file named kPortableMark lies
+  /// beside the program.
   virtual bool Portable() const;
 
   /// The language file in use when the machine dictates one. The outer optional is empty when the

@@ -9,7 +9,8 @@
 #include "platform/types.h"
 
 /// Shows a modal message and returns the number of the pressed button (IDOK ...). Closing the box
-/// counts as Cancel, or No where there is no Cancel, or OK where that is the only button.
+/// counts as Cancel, or No where there is no Cancel, or OK where that is the only button, or Abort.
+/// A style of an unknown kind shows OK alone.
 int MessageBoxW(HWND owner, const std::wstring& text, const std::wstring& caption, UINT style);
 
 struct BCGP_MSGBOXPARAMS {
@@ -35,6 +36,8 @@ using HGLOBAL = struct GlobalMemory*;
 BOOL OpenClipboard(HWND owner);
 BOOL EmptyClipboard();
 /// Hands over a memory block with a zero-terminated text; the clipboard owns it from then on.
+/// FALSE leaves it to the caller: the clipboard is not open, the handle is stale, or the format is
+/// not CF_UNICODETEXT.
 BOOL SetClipboardData(UINT format, HGLOBAL memory);
 BOOL CloseClipboard();
 
@@ -43,6 +46,8 @@ constexpr UINT GMEM_ZEROINIT = 0x0040;
 
 /// A block of `bytes` bytes, zero-filled when asked for; null when there is no memory.
 HGLOBAL GlobalAlloc(UINT flags, std::size_t bytes);
+/// The block's bytes; null for a stale handle.
 void* GlobalLock(HGLOBAL memory);
+/// Whether the block is locked still.
 BOOL GlobalUnlock(HGLOBAL memory);
 void GlobalFree(HGLOBAL memory);

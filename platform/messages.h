@@ -130,8 +130,10 @@ constexpr int SW_SHOW = 5;
 // Message boxes.
 constexpr UINT MB_OK = 0;
 constexpr UINT MB_OKCANCEL = 1;
+constexpr UINT MB_ABORTRETRYIGNORE = 2;
 constexpr UINT MB_YESNOCANCEL = 3;
 constexpr UINT MB_YESNO = 4;
+constexpr UINT MB_RETRYCANCEL = 5;
 constexpr UINT MB_TYPEMASK = 0x0F;
 constexpr UINT MB_ICONERROR = 0x10;
 constexpr UINT MB_ICONQUESTION = 0x20;

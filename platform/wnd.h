@@ -64,6 +64,7 @@ class CWnd : public CCmdTarget {
   BOOL ModifyStyle(DWORD remove, DWORD add);
   BOOL ModifyStyleEx(DWORD remove, DWORD add);
 
+  /// Sends WM_SETFONT, whose wParam is the address of a CFont (null: the interface font).
   void SetFont(const CFont& font);
   CFont GetFont() const;
 
@@ -78,7 +79,9 @@ class CWnd : public CCmdTarget {
   UINT IsDlgButtonChecked(int id) const;
 
   /// Runs the data exchange: into the controls with FALSE, out of them with TRUE. FALSE when the
-  /// exchange failed (CDataExchange::Fail); any other exception passes.
+  /// exchange failed (CDataExchange::Fail) or is running already; any other exception passes.
+  /// While it runs, notifications from the window's controls are not handled. TRUE, with nothing
+  /// exchanged, when there is no window.
   BOOL UpdateData(BOOL save = TRUE);
   virtual void DoDataExchange(CDataExchange* exchange);
 
@@ -105,7 +108,7 @@ class CWnd : public CCmdTarget {
  private:
   friend class MessageDelivery;
   friend class WindowAttachment;
-  MessageArguments current_;
+  class MessageDelivery* delivery_ = nullptr;  ///< The message being handled, innermost first.
 };
 
 /// Whether the handle names a living window.
@@ -116,6 +119,8 @@ BOOL PostMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 /// The direct child windows in template order; those made at run time come last.
 std::vector<HWND> GetChildWindows(HWND parent);
+/// The rectangle of a child window in its parent's client coordinates; empty for a stale handle.
+CRect GetChildRect(HWND child);
 /// The window class in the spelling of its documentation: "Button", "Static", "Edit", "ComboBox",
 /// "ListBox", "SysTreeView32", "SysListView32", "msctls_trackbar32", "#32770" for a dialog.
 const wchar_t* GetClassName(HWND window);
@@ -124,6 +129,8 @@ DWORD GetWindowLong(HWND window, int index);
 std::wstring GetWindowText(HWND window);
 BOOL SetWindowText(HWND window, const std::wstring& text);
 HWND GetActiveWindow();
+/// The tooltip of a control, asked from the dialog that enabled tooltips; empty when it has none.
+std::wstring GetToolTipText(HWND control);
 
 /// Makes a child window of a standard class at run time; null when the class is unknown.
 HWND CreateWindowChild(LPCWSTR className, const CString& text, DWORD style, const CRect& rect,

@@ -5,7 +5,9 @@
 #include <QPointer>
 #include <QString>
 #include <QWidget>
+#include <exception>
 #include <memory>
+#include <vector>
 
 #include "platform/messages.h"
 #include "platform/wnd.h"
@@ -30,6 +32,12 @@ enum class ControlKind {
   Slider,     // "slider"
 };
 
+/// A direct child window with its number, so that looking a control up touches nothing else.
+struct ChildWindow {
+  HWND window = nullptr;
+  int id = 0;
+};
+
 /// One window: its widget, the object attached to it, and what its template said. Owned by the
 /// window table until its window is destroyed; the widget dies a little later, when the event loop
 /// is reached again, so that it may be destroyed during its own message.
@@ -49,18 +57,32 @@ struct Peer {
   DWORD style = 0;
   DWORD exStyle = 0;
   bool toolTips = false;
+  HWND owner = nullptr;                ///< Of a top-level dialog; it is destroyed with its owner.
+  std::vector<ChildWindow> children;   ///< Direct children in template order.
+  HINSTANCE module = nullptr;          ///< Current when the window was made, and in its messages.
+  std::wstring text;                   ///< The text of a window whose widget shows none.
+  int modalDepth = 0;                  ///< Number of modal runs when the window was made.
+  bool exchanging = false;             ///< Inside UpdateData; the notifications of controls rest.
+  bool destroying = false;
+  bool defaultReached = false;  ///< Set by DefaultProcedure: the widget shall handle the event.
 
-  /// The window's own behaviour, last resort of every message.
+  /// The window's own behaviour, last resort of every message. An override hands what it does not
+  /// know to this one.
   virtual LRESULT DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam);
   virtual std::wstring Text() const;
   virtual void SetText(const std::wstring& text);
   virtual void SetFont(const QFont& font);
+  /// Whether a part of the control's own in another window, such as its dropped list, has the focus
+  /// now: the control's widget losing it to that part is no loss for the control.
+  virtual bool HoldsFocus() const { return false; }
 };
 
 /// Null for a stale handle.
 Peer* FindPeer(HWND window);
 /// Null for a widget that is no window of this layer.
 Peer* FindPeer(const QWidget* widget);
+/// The window that the widget is or lies in, such as the list of a viewport; null when in none.
+Peer* FindPeerAround(const QWidget* widget);
 /// The peer of a control class' own kind; null when the window is stale or of another kind.
 template <class Kind>
 Kind* FindPeerAs(HWND window) {
@@ -79,10 +101,46 @@ void SetPeerKind(Peer& peer, ControlKind kind);
 /// widget is hidden and deleted at the next turn of the event loop.
 void DestroyPeer(HWND window);
 
-/// Sends WM_COMMAND with that notification code to the control's parent.
+/// Ends the innermost modal run, whose DoModal raises the exception again. Without a modal run
+/// the exception is reported on standard error.
+void EndModalRunWith(std::exception_ptr exception);
+
+/// Runs code of the layers above from inside the toolkit, whose frames no exception may cross.
+/// False when the call raised one; the innermost modal run has got it then.
+template <class Call>
+bool GuardToolkitCall(Call&& call) {
+  try {
+    call();
+    return true;
+  } catch (...) {
+    EndModalRunWith(std::current_exception());
+    return false;
+  }
+}
+
+/// SendMessage for use inside signals and events of the toolkit: guarded, 0 after an exception.
+/// The window may be gone afterwards.
+LRESULT SendFromToolkit(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// Sends WM_COMMAND with that notification code to the control's parent. Guarded.
 LRESULT NotifyCommand(const Peer& peer, UINT code);
-/// Fills the header and sends WM_NOTIFY to the control's parent.
+/// Fills the header and sends WM_NOTIFY to the control's parent. Guarded.
 LRESULT NotifyParent(const Peer& peer, NMHDR& header, UINT code);
+
+/// A control class' object for a window that has none of its own, for as long as it lives; the
+/// window's attachment and messages do not change.
+template <class Control>
+class ControlView {
+ public:
+  explicit ControlView(HWND window) { control_.m_hWnd = window; }
+  ~ControlView() { control_.m_hWnd = nullptr; }
+  ControlView(const ControlView&) = delete;
+  ControlView& operator=(const ControlView&) = delete;
+  Control* operator->() { return &control_; }
+
+ private:
+  Control control_;
+};
 
 /// Offers a key-down to the PreTranslateMessage of the window and of its parents up to the dialog.
 /// True when one of them took it; the window may be gone then.

@@ -1,0 +1,135 @@
+#include "core/page_values.h"
+
+namespace page_values {
+
+namespace {
+
+void CheckRange(CDataExchange* exchange, const Control& control, int value) {
+  if (!control.ranged) return;
+  const Range& range = control.range;
+  if (range.onlyWhileChecked != 0 &&
+      exchange->m_pDlgWnd->IsDlgButtonChecked(range.onlyWhileChecked) == 0) {
+    return;
+  }
+  DDV_MinMaxInt(exchange, value, range.minimum, range.maximum);
+}
+
+void ExchangeLabel(CDataExchange* exchange, const Control& control, int& id) {
+  CString label = LabelOf(control.labels, id);
+  DDX_CBStringExact(exchange, control.id, label);
+  id = IdOf(control.labels, label);
+}
+
+void ExchangeBits(CDataExchange* exchange, const Control& control, int& bits) {
+  int shown = 0;
+  for (std::size_t bit = 0; bit < control.boxes.size(); ++bit) {
+    int state = bits >> bit & 1;
+    DDX_Check(exchange, control.boxes[bit], state);
+    if (state == BST_CHECKED) shown |= 1 << bit;
+  }
+  bits = shown;
+}
+
+void ExchangeNumber(CDataExchange* exchange, const Row& row, int& stored) {
+  const Control& control = row.control;
+  int shown = ToControl(row, stored);
+  switch (control.kind) {
+    case Kind::kCheck:
+      DDX_Check(exchange, control.id, shown);
+      break;
+    case Kind::kRadio:
+      DDX_Radio(exchange, control.id, shown);
+      break;
+    case Kind::kSlider:
+      DDX_Slider(exchange, control.id, shown);
+      CheckRange(exchange, control, shown);
+      break;
+    case Kind::kLabels:
+      ExchangeLabel(exchange, control, shown);
+      break;
+    case Kind::kBits:
+      ExchangeBits(exchange, control, shown);
+      break;
+    default:
+      DDX_Text(exchange, control.id, shown);
+      CheckRange(exchange, control, shown);
+  }
+  stored = ToStored(row, shown);
+}
+
+}  // namespace
+
+int ToControl(const Row& row, int stored) {
+  const Control& control = row.control;
+  if (control.inverted) return stored == 0 ? 1 : 0;
+  if (control.flag) return stored > 0 ? 1 : 0;
+  if (control.kind == Kind::kRadio && (stored < 0 || stored >= control.buttons)) return 0;
+  return stored;
+}
+
+int ToStored(const Row& row, int shown) {
+  const Control& control = row.control;
+  const bool isBool = row.stored.readAs == Type::kBool;
+  if (control.inverted) return (control.kind == Kind::kRadio ? shown == 0 : shown != BST_CHECKED);
+  if (control.kind == Kind::kRadio && isBool) return shown != 0 ? 1 : 0;
+  if (isBool || control.flag) return shown == BST_CHECKED ? 1 : 0;
+  return shown;
+}
+
+Values::Values(const TableView& table, INTERNAL_IFC::IConfigDataMgr& store)
+    : table_(table), values_(table.rows.size()) {
+  for (std::size_t index = 0; index < values_.size(); ++index) {
+    Read(table_.rows[index], values_[index], store);
+  }
+}
+
+void Values::Read(const Row& row, Value& value, INTERNAL_IFC::IConfigDataMgr& store) const {
+  const Stored& stored = row.stored;
+  switch (stored.readAs) {
+    case Type::kBool:
+      value.number = store.ReadBool(row.section, row.key, stored.number != 0) ? 1 : 0;
+      break;
+    case Type::kInt: {
+      const bool other = stored.defaultRow >= 0;
+      const int fallback =
+          other ? values_[static_cast<std::size_t>(stored.defaultRow)].number : stored.number;
+      value.number = store.ReadInt(row.section, row.key, fallback);
+      break;
+    }
+    case Type::kText:
+      value.text = store.ReadString(row.section, row.key, stored.text);
+      break;
+  }
+}
+
+void Values::Exchange(CDataExchange* exchange) {
+  for (const std::uint8_t index : table_.exchanged) {
+    const Row& row = table_.rows[index];
+    Value& value = values_[index];
+    if (row.control.kind == Kind::kEdit) {
+      DDX_Text(exchange, row.control.id, value.text);
+    } else {
+      ExchangeNumber(exchange, row, value.number);
+    }
+  }
+}
+
+void Values::Write(INTERNAL_IFC::IConfigDataMgr& store) const {
+  for (const std::uint8_t index : table_.written) {
+    const Row& row = table_.rows[index];
+    const Value& value = values_[index];
+    switch (row.stored.writtenAs) {
+      case Type::kBool:
+        store.WriteBool(row.section, row.key, value.number != 0);
+        break;
+      case Type::kInt:
+        store.WriteInt(row.section, row.key, value.number);
+        break;
+      case Type::kText:
+        store.WriteString(row.section, row.key, value.text.Str());
+        break;
+    }
+  }
+}
+
+}  // namespace page_values

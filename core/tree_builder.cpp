@@ -1,0 +1,42 @@
+#include "core/tree_builder.h"
+
+#include "core/tree_images.h"
+
+using INTERNAL_IFC::IConfigEntry;
+using INTERNAL_IFC::IConfigParent;
+
+IConfigEntry* EntryOf(const CTreeCtrl& tree, HTREEITEM item) {
+  if (item == nullptr) return nullptr;
+  return reinterpret_cast<IConfigEntry*>(tree.GetItemData(item));
+}
+
+namespace {
+
+HTREEITEM InsertEntry(CTreeCtrl& tree, IConfigEntry& entry, HTREEITEM under) {
+  const std::int32_t own = entry.GetImageIndex();
+  const int image = own == -1 ? kDefaultTreeImage : own;
+  const HTREEITEM item = tree.InsertItem(entry.GetTitle(), image, image, under, TVI_LAST);
+  tree.SetItemData(item, reinterpret_cast<DWORD_PTR>(&entry));
+  return item;
+}
+
+}  // namespace
+
+HTREEITEM BuildTree(CTreeCtrl& tree, INTERNAL_IFC::IObserver& observer, IConfigParent& parent,
+                    HTREEITEM under, std::int32_t pageId) {
+  HTREEITEM found = nullptr;
+  std::vector<std::shared_ptr<IConfigEntry>> children;
+  parent.GetChildren(children);
+  for (const std::shared_ptr<IConfigEntry>& child : children) {
+    const HTREEITEM item = InsertEntry(tree, *child, under);
+    if (child->GetPageId() == pageId) found = item;
+    if (auto* publisher = dynamic_cast<INTERNAL_IFC::IPublisher*>(child.get())) {
+      publisher->Subscribe(&observer, std::make_shared<CTreeViewParms>(item));
+    }
+    if (auto* group = dynamic_cast<IConfigParent*>(child.get())) {
+      if (const HTREEITEM below = BuildTree(tree, observer, *group, item, pageId)) found = below;
+    }
+    tree.Expand(item, TVE_EXPAND);
+  }
+  return found;
+}

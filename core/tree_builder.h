@@ -1,0 +1,26 @@
+#pragma once
+
+// Fills the page tree from the managers.
+
+#include "ifc/config_entry.h"
+#include "ifc/observer.h"
+#include "platform/controls.h"
+
+/// Names the tree item that a publishing entry belongs to.
+class CTreeViewParms : public INTERNAL_IFC::IObserverParms {
+ public:
+  explicit CTreeViewParms(HTREEITEM item) : item_(item) {}
+  HTREEITEM Item() const { return item_; }
+
+ private:
+  HTREEITEM item_;
+};
+
+/// The entry that an item stands for; null when it has none.
+INTERNAL_IFC::IConfigEntry* EntryOf(const CTreeCtrl& tree, HTREEITEM item);
+
+/// Adds an expanded item for every child of `parent`, all levels, behind the children that `under`
+/// has already. Entries that publish changes get `observer` as their observer. Returns the item of
+/// the last entry with that page id, or null. The entries must live as long as the items.
+HTREEITEM BuildTree(CTreeCtrl& tree, INTERNAL_IFC::IObserver& observer,
+                    INTERNAL_IFC::IConfigParent& parent, HTREEITEM under, std::int32_t pageId);

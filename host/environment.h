@@ -1,0 +1,47 @@
+#pragma once
+
+// What every command works with: the machine, the data folder with its stores, and the log.
+
+#include <memory>
+
+#include "host/arguments.h"
+#include "host/machine_file.h"
+#include "host/stores.h"
+
+class Environment {
+ public:
+  explicit Environment(const Arguments& arguments);
+
+  /// Reads the machine file, if one is named, and makes it the machine in use; before the toolkit
+  /// starts. Returns an exit status; the reason of a failure goes to standard error.
+  int ReadMachine();
+  /// Logical pixels per inch for the toolkit; 0 leaves those of the screen.
+  int Dpi() const;
+
+  /// Takes the data folder, opens the stores and sets the sibling libraries up; after the toolkit
+  /// has started. Returns an exit status, as ReadMachine.
+  int Start();
+
+  const Arguments& GetArguments() const { return arguments_; }
+  Stores& GetStores() { return stores_; }
+  HOLLERIN::MemoryLog& GetLog() { return *log_; }
+
+  /// Writes to standard error and to the log.
+  void Report(const QString& text);
+  /// Reports stores that could not be saved; whether all were.
+  bool ReportSaved(const QStringList& failed);
+
+ private:
+  std::wstring LanguageFile() const;
+  void SetUp();
+
+  Arguments arguments_;
+  Stores stores_;
+  std::shared_ptr<const MachineFile> machine_;
+  std::shared_ptr<HOLLERIN::MemoryLog> log_;
+};
+
+/// Writes a line to standard error, after the program's name.
+void PrintError(const QString& text);
+/// Writes UTF-8 text to standard output; false when that failed.
+bool Print(const QString& text);

@@ -1,0 +1,132 @@
+#include "host/machine_file.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonParseError>
+#include <QString>
+#include <limits>
+
+#include "host/json_shape.h"
+
+namespace {
+
+constexpr int kMost = std::numeric_limits<int>::max();
+constexpr int kLeast = std::numeric_limits<int>::min();
+
+// Every fact that a machine file may state. Those without a reader yet are checked all the same, so
+// that a file is right or wrong independent of the dialogs that exist.
+const Shape::Check& MachineShape() {
+  using namespace Shape;
+  const QStringList stores = {"config", "master", "history", "fourth"};
+  const Check values =
+      MapOf(MapOf(Either(Either(Bool(), Integer(kLeast, kMost)), Text())));
+  static const Check shape = ObjectOf({
+      {"processors", Integer(1, kMost)},
+      {"dpi", Integer(48, 960)},
+      {"portable", Bool()},
+      {"language", Either(Text(), Null())},
+      {"registrar", ObjectOf({{"srf", Bool()},
+                              {"folder", Bool()},
+                              {"f3", Bool()},
+                              {"hotkey", Bool()},
+                              {"file", Bool()},
+                              {"fails", OneOf({"create", "associations", "hotkey", "file"})}})},
+      {"browserExtensions", Either(Text(), Null())},
+      {"editors", ListOf(ObjectOf({{"name", Text()}, {"default", Bool()}}))},
+      {"ocrLanguages",
+       Either(ListOf(ObjectOf({{"code", Text()}, {"name", Text()}, {"available", Bool()}})),
+              OneOf({"fails"}))},
+      {"ifilters", ListOf(ObjectOf({{"extension", Text()},
+                                    {"name", Text()},
+                                    {"location", Text()},
+                                    {"text", Bool()}}))},
+      {"components", ListOf(Text())},
+      {"sound", OneOf({"plays", "fails"})},
+      {"folders", MapOf(Text())},
+      {"drives", MapOf(Text())},
+      {"defaults", ObjectOf({{"config", values}, {"master", values}})},
+      {"cache", Either(WholeObjectOf({{"items", Integer(0, kMost)}, {"bytes", Integer(0, kMost)}}),
+                       OneOf({"fails"}))},
+      {"fails", ListOf(Text())},
+      {"throws", WholeObjectOf({{"store", OneOf(stores)}, {"call", Integer(1, kMost)}})},
+  });
+  return shape;
+}
+
+HOLLERIN::Value ToValue(const QJsonValue& value) {
+  if (value.isBool()) return value.toBool();
+  if (value.isString()) return value.toString().toStdWString();
+  return static_cast<std::int32_t>(value.toInt());
+}
+
+std::optional<HOLLERIN::Values> ToValues(const QJsonValue& json) {
+  if (json.isUndefined()) return std::nullopt;
+  HOLLERIN::Values values;
+  const QJsonObject sections = json.toObject();
+  for (auto section = sections.begin(); section != sections.end(); ++section) {
+    const QJsonObject keys = section.value().toObject();
+    HOLLERIN::Section& target = values[section.key().toStdWString()];
+    for (auto key = keys.begin(); key != keys.end(); ++key) {
+      target[key.key().toStdWString()] = ToValue(key.value());
+    }
+  }
+  return values;
+}
+
+}  // namespace
+
+std::shared_ptr<const MachineFile> MachineFile::Parse(const QByteArray& text, QString& error) {
+  QJsonParseError problem;
+  const QJsonDocument document = QJsonDocument::fromJson(text, &problem);
+  if (document.isNull()) {
+    error = QStringLiteral("not JSON: %1 at byte %2").arg(problem.errorString()).arg(problem.offset);
+    return nullptr;
+  }
+  const QJsonValue value =
+      document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
+  error = MachineShape()(value);
+  if (!error.isEmpty()) return nullptr;
+  const auto machine = std::make_shared<MachineFile>();
+  machine->Take(document.object());
+  return machine;
+}
+
+std::shared_ptr<const MachineFile> MachineFile::Load(const QString& path, QString& error) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    error = file.errorString();
+    return nullptr;
+  }
+  return Parse(file.readAll(), error);
+}
+
+void MachineFile::Take(const QJsonObject& facts) {
+  dpi_ = facts["dpi"].toInt(0);
+  if (facts.contains("portable")) portable_ = facts["portable"].toBool();
+  if (const QJsonValue language = facts["language"]; language.isNull()) {
+    language_.emplace(std::nullopt);
+  } else if (language.isString()) {
+    language_.emplace(language.toString().toStdWString());
+  }
+  for (const QJsonValue& name : facts["fails"].toArray()) {
+    fails_.insert(name.toString().toStdWString());
+  }
+  if (const QJsonObject rule = facts["throws"].toObject(); !rule.isEmpty()) {
+    throws_ = ThrowRule{rule["store"].toString().toStdString(), rule["call"].toInt()};
+  }
+  const QJsonObject defaults = facts["defaults"].toObject();
+  defaultConfig_ = ToValues(defaults["config"]);
+  defaultMaster_ = ToValues(defaults["master"]);
+}
+
+bool MachineFile::Portable() const { return portable_ ? *portable_ : Machine::Portable(); }
+
+std::optional<std::optional<std::wstring>> MachineFile::LanguageFile() const {
+  return language_ ? language_ : Machine::LanguageFile();
+}
+
+bool MachineFile::Fails(std::wstring_view operation) const {
+  return fails_.contains(operation) || Machine::Fails(operation);
+}

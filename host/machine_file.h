@@ -1,0 +1,53 @@
+#pragma once
+
+// The facts of a machine, read from a file.
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "hollerin/application.h"
+#include "platform/machine.h"
+
+class QByteArray;
+class QJsonObject;
+class QString;
+
+/// When a store shall raise an exception.
+struct ThrowRule {
+  std::string store;  ///< "config", "master", "history" or "fourth".
+  int call = 0;       ///< Counts reads and writes, from 1.
+};
+
+/// A machine whose facts come from a JSON object. A fact that the object leaves out stays that of
+/// the real machine.
+class MachineFile : public Machine {
+ public:
+  /// Null when the text is no JSON object, has an unknown key or a value of the wrong kind; `error`
+  /// then says which one.
+  static std::shared_ptr<const MachineFile> Parse(const QByteArray& text, QString& error);
+  /// As Parse, for a file.
+  static std::shared_ptr<const MachineFile> Load(const QString& path, QString& error);
+
+  bool Portable() const override;
+  std::optional<std::optional<std::wstring>> LanguageFile() const override;
+  bool Fails(std::wstring_view operation) const override;
+
+  /// Logical pixels per inch; 0 leaves those of the screen.
+  int Dpi() const { return dpi_; }
+  const std::optional<ThrowRule>& Throws() const { return throws_; }
+  const std::optional<HOLLERIN::Values>& DefaultConfig() const { return defaultConfig_; }
+  const std::optional<HOLLERIN::Values>& DefaultMaster() const { return defaultMaster_; }
+
+ private:
+  void Take(const QJsonObject& facts);
+
+  int dpi_ = 0;
+  std::optional<bool> portable_;
+  std::optional<std::optional<std::wstring>> language_;
+  std::set<std::wstring, std::less<>> fails_;
+  std::optional<ThrowRule> throws_;
+  std::optional<HOLLERIN::Values> defaultConfig_;
+  std::optional<HOLLERIN::Values> defaultMaster_;
+};

@@ -1,0 +1,110 @@
+#include "platform/qt/accessible_names.h"
+
+#include <QLabel>
+
+namespace {
+
+bool IsNamed(const Peer& control) {
+  switch (control.kind) {
+    case ControlKind::Dialog:
+    case ControlKind::Label:
+    case ControlKind::Separator:
+    case ControlKind::Picture:
+    case ControlKind::Frame:
+      return false;
+    default:
+      return true;
+  }
+}
+
+/// Whether the window text is what the user enters, which names nothing.
+bool TextIsContent(const Peer& control) {
+  return control.kind == ControlKind::Edit || control.kind == ControlKind::Combo;
+}
+
+bool NamesOthers(const Peer& control) {
+  return control.kind == ControlKind::Label || control.kind == ControlKind::Check ||
+         control.kind == ControlKind::Radio;
+}
+
+/// The text without the marks of keys and without the colon that leads to the control.
+QString SpokenText(const Peer& control) {
+  const QString text = ToQt(control.Text());
+  QString spoken;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    // A doubled mark stands for the character itself.
+    if (text[i] == QLatin1Char('&') && ++i == text.size()) break;
+    spoken += text[i];
+  }
+  spoken = spoken.simplified();
+  if (spoken.endsWith(QLatin1Char(':'))) spoken.chop(1);
+  return spoken.trimmed();
+}
+
+std::size_t PlaceIn(const Peer& dialog, HWND control) {
+  std::size_t place = 0;
+  while (place < dialog.children.size() && dialog.children[place].window != control) ++place;
+  return place;
+}
+
+QString TextBefore(const Peer& dialog, std::size_t place) {
+  while (place-- > 0) {
+    const Peer* before = FindPeer(dialog.children[place].window);
+    if (before == nullptr || !NamesOthers(*before)) continue;
+    const QString text = SpokenText(*before);
+    if (!text.isEmpty()) return text;
+  }
+  return {};
+}
+
+void Name(const Peer& control, const QString& before) {
+  if (control.widget == nullptr || !IsNamed(control)) return;
+  const QString own = TextIsContent(control) ? QString() : SpokenText(control);
+  const QString& name = own.isEmpty() ? before : own;
+  if (control.widget->accessibleName() != name) control.widget->setAccessibleName(name);
+}
+
+/// Lets the keys of a label lead to the first control after it that takes the focus.
+void FindBuddy(const Peer& dialog, std::size_t place, QLabel& label) {
+  for (std::size_t i = place + 1; i < dialog.children.size(); ++i) {
+    const Peer* next = FindPeer(dialog.children[i].window);
+    if (next == nullptr || next->widget == nullptr || (next->style & WS_TABSTOP) == 0) continue;
+    label.setBuddy(next->widget);
+    return;
+  }
+}
+
+}  // namespace
+
+void NameControls(const Peer& dialog) {
+  QString before;
+  for (std::size_t i = 0; i < dialog.children.size(); ++i) {
+    const Peer* control = FindPeer(dialog.children[i].window);
+    if (control == nullptr || control->kind == ControlKind::Dialog) continue;
+    Name(*control, before);
+    if (NamesOthers(*control)) {
+      const QString text = SpokenText(*control);
+      if (!text.isEmpty()) before = text;
+    }
+    if (control->kind == ControlKind::Label)
+      if (auto* label = qobject_cast<QLabel*>(control->widget)) FindBuddy(dialog, i, *label);
+  }
+}
+
+void UpdateAccessibleName(const Peer& control) {
+  const Peer* dialog = FindPeer(control.parent);
+  if (dialog != nullptr) Name(control, TextBefore(*dialog, PlaceIn(*dialog, control.handle)));
+}
+
+void UpdateNamesAfter(const Peer& changed) {
+  UpdateAccessibleName(changed);
+  const Peer* dialog = FindPeer(changed.parent);
+  if (dialog == nullptr || !NamesOthers(changed)) return;
+  const std::size_t place = PlaceIn(*dialog, changed.handle);
+  for (std::size_t i = place + 1; i < dialog->children.size(); ++i) {
+    const Peer* control = FindPeer(dialog->children[i].window);
+    if (control == nullptr) continue;
+    Name(*control, TextBefore(*dialog, i));
+    if (NamesOthers(*control) && !SpokenText(*control).isEmpty()) return;
+  }
+}

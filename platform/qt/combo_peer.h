@@ -1,0 +1,64 @@
+#pragma once
+
+// Combo boxes. Private to the platform layer.
+
+#include <QComboBox>
+#include <QVariant>
+
+#include "platform/qt/peer.h"
+
+/// The widget is a QComboBox that keeps the height of one row whatever height it is given: the
+/// height of a template is that of the dropped list.
+class ComboPeer final : public Peer {
+ public:
+  ComboPeer(DWORD style, const std::wstring& text, QWidget* parent);
+
+  std::wstring Text() const override;
+  /// Fills the edit part; a combo without one keeps its text.
+  void SetText(const std::wstring& text) override;
+  LRESULT DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) override;
+  bool HoldsFocus() const override;
+
+  /// The row it got, CB_ERR when there is no such place; a row of -1 appends.
+  int Insert(int row, const QString& text);
+  /// Inserts in the order of the combo's style.
+  int Add(const QString& text);
+  int Remove(int row);
+  void Clear();
+
+  int Selection() const;
+  int Select(int row);
+  /// The first row behind `after`, wrapping around, with that text, case aside.
+  int FindExact(int after, const QString& text) const;
+
+  /// The row's DWORD_PTR, indent in pixels, or text colour.
+  enum RowRole { DataRole = Qt::UserRole, IndentRole };
+  bool SetRow(int row, int role, const QVariant& value);
+  QVariant Row(int row, int role) const;
+
+  bool Dropped() const { return dropped_; }
+  void Drop(bool drop);
+  void SetDroppedWidth(int width);
+  int DroppedWidth() const;
+
+  void SetLimit(int characters);
+  DWORD EditSelection() const;
+  bool SetEditSelection(int start, int end);
+
+  /// Offers the notification to the attached object, then sends it to the parent.
+  LRESULT Notify(UINT code);
+  void ChooseRow(int row);
+
+ private:
+  friend class ComboWidget;
+
+  QComboBox& Combo() const { return static_cast<QComboBox&>(*widget); }
+  bool HasRow(int row) const { return row >= 0 && row < Combo().count(); }
+  void OnActivated();
+  void OnDropped(bool dropped);
+
+  /// The selection that the parent knows of.
+  int known_ = -1;
+  bool dropped_ = false;
+  int droppedWidth_ = 0;
+};

@@ -1,0 +1,143 @@
+#include "platform/qt/edit_peer.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRegularExpressionValidator>
+#include <algorithm>
+#include <climits>
+
+#include "platform/qt/control_parts.h"
+
+namespace {
+
+constexpr int kNoLimit = INT_MAX - 1;
+
+void NotifyChange(const QWidget* widget) {
+  if (const auto* peer = PeerOf<EditPeer>(widget)) NotifyCommand(*peer, EN_CHANGE);
+}
+
+std::pair<int, int> Clamped(int start, int end, int length) {
+  if (end < 0) end = length;
+  return {std::min(start, length), std::min(end, length)};
+}
+
+class LineEditPeer final : public EditPeer {
+ public:
+  LineEditPeer(DWORD controlStyle, const std::wstring& text, QWidget* parent) {
+    auto* edit = new QLineEdit(ToQt(text), parent);
+    widget = edit;
+    kind = ControlKind::Edit;
+    edit->setMaxLength(kNoLimit);
+    edit->setReadOnly((controlStyle & ES_READONLY) != 0);
+    if ((controlStyle & ES_NUMBER) != 0) {
+      const QRegularExpression digits(QStringLiteral("[0-9]*"));
+      edit->setValidator(new QRegularExpressionValidator(digits, edit));
+    }
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [edit] { NotifyChange(edit); });
+  }
+
+  std::wstring Text() const override { return FromQt(Edit().text()); }
+  void SetText(const std::wstring& text) override { Edit().setText(ToQt(text)); }
+
+  void SetSelection(int start, int end) override {
+    if (start < 0) return Edit().deselect();
+    const auto [first, last] = Clamped(start, end, int(Edit().text().size()));
+    Edit().setSelection(first, last - first);
+  }
+  std::pair<int, int> Selection() const override {
+    if (!Edit().hasSelectedText()) return {Edit().cursorPosition(), Edit().cursorPosition()};
+    return {Edit().selectionStart(), Edit().selectionEnd()};
+  }
+  void SetReadOnly(bool readOnly) override { Edit().setReadOnly(readOnly); }
+  void SetLimit(int characters) override {
+    Edit().setMaxLength(characters > 0 ? characters : kNoLimit);
+  }
+
+ private:
+  QLineEdit& Edit() const { return static_cast<QLineEdit&>(*widget); }
+};
+
+/// An edit of several lines. Tab leaves it, and a limit stops what is typed or pasted.
+class TextEditWidget final : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+  int limit = kNoLimit;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool adds = !event->text().isEmpty() && event->text().at(0) >= QLatin1Char(' ');
+    if (adds && Room() == 0) return event->accept();
+    QPlainTextEdit::keyPressEvent(event);
+  }
+  void insertFromMimeData(const QMimeData* source) override {
+    insertPlainText(source->text().left(Room()));
+  }
+
+ private:
+  int Room() const {
+    const auto length = document()->characterCount() - 1 - textCursor().selectedText().size();
+    return std::max(0, limit - int(length));
+  }
+};
+
+class TextEditPeer final : public EditPeer {
+ public:
+  TextEditPeer(DWORD controlStyle, const std::wstring& text, QWidget* parent) {
+    auto* edit = new TextEditWidget(parent);
+    widget = edit;
+    kind = ControlKind::Edit;
+    edit->setTabChangesFocus(true);
+    const bool scrolls = (controlStyle & WS_HSCROLL) != 0;
+    edit->setLineWrapMode(scrolls ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
+    SetReadOnly((controlStyle & ES_READONLY) != 0);
+    TextEditPeer::SetText(text);
+    QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [edit] { NotifyChange(edit); });
+  }
+
+  /// Lines end with carriage return and line feed.
+  std::wstring Text() const override {
+    return FromQt(Edit().toPlainText().replace(QLatin1Char('\n'), QStringLiteral("\r\n")));
+  }
+  /// An edit of several lines tells nobody that it was filled.
+  void SetText(const std::wstring& text) override {
+    const QSignalBlocker quiet(&Edit());
+    Edit().setPlainText(ToQt(text));
+  }
+
+  void SetSelection(int start, int end) override {
+    QTextCursor cursor = Edit().textCursor();
+    if (start < 0) {
+      cursor.clearSelection();
+    } else {
+      const int length = Edit().document()->characterCount() - 1;
+      const auto [first, last] = Clamped(start, end, length);
+      cursor.setPosition(first);
+      cursor.setPosition(last, QTextCursor::KeepAnchor);
+    }
+    Edit().setTextCursor(cursor);
+  }
+  std::pair<int, int> Selection() const override {
+    const QTextCursor cursor = Edit().textCursor();
+    return {cursor.selectionStart(), cursor.selectionEnd()};
+  }
+  void SetReadOnly(bool readOnly) override {
+    Edit().setReadOnly(readOnly);
+    // A text that cannot be changed can still be walked through and copied by keys.
+    if (readOnly) Edit().setTextInteractionFlags(Qt::TextSelectableByMouse |
+                                                 Qt::TextSelectableByKeyboard);
+  }
+  void SetLimit(int characters) override {
+    static_cast<TextEditWidget&>(*widget).limit = characters > 0 ? characters : kNoLimit;
+  }
+
+ private:
+  QPlainTextEdit& Edit() const { return static_cast<QPlainTextEdit&>(*widget); }
+};
+
+}  // namespace
+
+std::unique_ptr<Peer> EditPeer::Make(DWORD style, const std::wstring& text, QWidget* parent) {
+  if ((style & ES_MULTILINE) != 0) return std::make_unique<TextEditPeer>(style, text, parent);
+  return std::make_unique<LineEditPeer>(style, text, parent);
+}

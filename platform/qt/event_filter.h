@@ -1,0 +1,11 @@
+#pragma once
+
+// Where the toolkit's events become messages. Private to the platform layer.
+
+#include "platform/qt/peer.h"
+
+/// Lets the events of a registered widget become messages to its window.
+void InstallEventFilter(QWidget& widget);
+
+/// Tells a dialog its client size (WM_SIZE).
+void SendSizeMessage(const Peer& peer);

@@ -17,13 +17,13 @@ namespace BRISQUEL {
 Status OpenConfigDialog(HWND, const StoreHandle& config, const StoreHandle& master,
                         const StoreHandle& history, const StoreHandle& fourth, int initialPage) {
   using Dialog = Geometry::CGeometryWnd<CConfigurationMain>;
-  return RunEntryPoint(UiLibrary::kAttach, config, [&] {
-    return Dialog(config, master, history, fourth, initialPage);
-  });
+  return RunEntryPoint(UiLibrary::kAttach, config,
+                       [&] { return Dialog(config, master, history, fourth, initialPage); });
 }
 
 Status ShowMessage(HWND) {
-  RunEntryPoint(UiLibrary::kLeave, nullptr, [] { return CMessageBox(IDD_MESSAGE_BOX, L"Testing"); });
+  RunEntryPoint(UiLibrary::kLeave, nullptr,
+                [] { return CMessageBox(IDD_MESSAGE_BOX, L"Testing"); });
   return 0;
 }
 

@@ -15,8 +15,12 @@ namespace {
 constexpr const wchar_t* kSource = L"Brisquel/ConfigurationMain";
 
 constexpr Geometry::ControlConstraint kLayout[] = {
-    {IDC_PAGE_TREE, L"CY"},         {IDC_PAGE_FRAME, L"CX+CY"}, {IDC_PAGE_CAPTION, L"CX"},
-    {IDC_RESTORE_DEFAULTS, L"Y"},   {IDOK, L"X+Y"},             {IDCANCEL, L"X+Y"},
+    {IDC_PAGE_TREE, L"CY"},
+    {IDC_PAGE_FRAME, L"CX+CY"},
+    {IDC_PAGE_CAPTION, L"CX"},
+    {IDC_RESTORE_DEFAULTS, L"Y"},
+    {IDOK, L"X+Y"},
+    {IDCANCEL, L"X+Y"},
 };
 
 class ScopedFlag {

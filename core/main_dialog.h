@@ -1,9 +1,10 @@
 #pragma once
 
-// The main configuration dialog: a tree of settings pages on the left, the chosen page on the right.
+// The main configuration dialog: a tree of settings pages on the left, the chosen page on the
+// right.
 
-#include "core/config_mgr.h"
 #include "controls/separator.h"
+#include "core/config_mgr.h"
 #include "foundation/geometry.h"
 #include "ifc/clear_history_settings.h"
 #include "ifc/observer.h"

@@ -42,8 +42,14 @@ constexpr PageRow Leaf(PageGroup group, UINT title, std::int32_t pageId) {
 template <class Manager, class Page>
 constexpr GroupRow Group(PageGroup group, UINT title, std::int32_t pageId, std::int32_t image,
                          const wchar_t* creationFailure) {
-  return {group,           title,         pageId, image, Page::IDD, creationFailure,
-          &MakeGroupPage<Page>, &MakeManager<Manager>};
+  return {group,
+          title,
+          pageId,
+          image,
+          Page::IDD,
+          creationFailure,
+          &MakeGroupPage<Page>,
+          &MakeManager<Manager>};
 }
 
 constexpr GroupRow kGroups[] = {

@@ -1,5 +1,7 @@
 #include "core/page_values.h"
 
+#include "platform/controls.h"
+
 namespace page_values {
 
 namespace {
@@ -70,7 +72,7 @@ int ToControl(const Row& row, int stored) {
 int ToStored(const Row& row, int shown) {
   const Control& control = row.control;
   const bool isBool = row.stored.readAs == Type::kBool;
-  if (control.inverted) return (control.kind == Kind::kRadio ? shown == 0 : shown != BST_CHECKED);
+  if (control.inverted) return control.kind == Kind::kRadio ? shown == 0 : shown != BST_CHECKED;
   if (control.kind == Kind::kRadio && isBool) return shown != 0 ? 1 : 0;
   if (isBool || control.flag) return shown == BST_CHECKED ? 1 : 0;
   return shown;

@@ -30,9 +30,9 @@ enum class Type : std::uint8_t { kBool, kInt, kText };
 struct Stored {
   Type readAs = Type::kInt;
   Type writtenAs = Type::kInt;
-  int number = 0;               ///< Default of a boolean or integer.
-  const wchar_t* text = L"";    ///< Default of a text.
-  int defaultRow = -1;          ///< The earlier row whose value is the default; -1 for none.
+  int number = 0;             ///< Default of a boolean or integer.
+  const wchar_t* text = L"";  ///< Default of a text.
+  int defaultRow = -1;        ///< The earlier row whose value is the default; -1 for none.
 };
 
 constexpr Stored Bool(bool defaultValue) {
@@ -67,48 +67,52 @@ struct Control {
   bool flag = false;      ///< Any integer above 0 counts as checked; written as 0 or 1.
   int buttons = 0;        ///< Radio buttons of the group.
   bool ranged = false;
-  Range range;
-  std::span<const LabelRow> labels;
-  std::span<const int> boxes;
+  Range range{};
+  std::span<const LabelRow> labels{};
+  std::span<const int> boxes{};
 };
 
 /// A check box. A boolean is true exactly when the box is checked; an integer is the box's state.
 constexpr Control Check(int id) { return {Kind::kCheck, id}; }
 /// A check box that is checked when the boolean is false.
-constexpr Control InvertedCheck(int id) { return {Kind::kCheck, id, true}; }
+constexpr Control InvertedCheck(int id) {
+  return {.kind = Kind::kCheck, .id = id, .inverted = true};
+}
 /// A check box for an integer that counts as set when it is above 0.
-constexpr Control FlagCheck(int id) { return {Kind::kCheck, id, false, true}; }
+constexpr Control FlagCheck(int id) { return {.kind = Kind::kCheck, .id = id, .flag = true}; }
 /// The group of `buttons` radio buttons that starts with `first`. An integer is the index of the
 /// checked button, shown as 0 when it names none; a boolean is true when the index is not 0.
 constexpr Control Radio(int first, int buttons) {
-  return {Kind::kRadio, first, false, false, buttons};
+  return {.kind = Kind::kRadio, .id = first, .buttons = buttons};
 }
 /// Two radio buttons for a boolean that is true when the first one is checked.
-constexpr Control InvertedRadio(int first) { return {Kind::kRadio, first, true, false, 2}; }
+constexpr Control InvertedRadio(int first) {
+  return {.kind = Kind::kRadio, .id = first, .inverted = true, .buttons = 2};
+}
 /// An edit with a decimal integer.
 constexpr Control Number(int id, Range range) {
-  return {Kind::kNumber, id, false, false, 0, true, range};
+  return {.kind = Kind::kNumber, .id = id, .ranged = true, .range = range};
 }
 constexpr Control Slider(int id, Range range) {
-  return {Kind::kSlider, id, false, false, 0, true, range};
+  return {.kind = Kind::kSlider, .id = id, .ranged = true, .range = range};
 }
 /// An edit whose text is the value, as it stands.
 constexpr Control Edit(int id) { return {Kind::kEdit, id}; }
 /// A combo box that shows the label of an id. The page fills it; an id without a label shows no
 /// selection, and a text that is no label is written as -1.
 constexpr Control Labels(int id, std::span<const LabelRow> labels) {
-  return {Kind::kLabels, id, false, false, 0, false, {}, labels, {}};
+  return {.kind = Kind::kLabels, .id = id, .labels = labels};
 }
 /// One check box for each bit of an integer, lowest bit first. Other bits are not carried over.
 constexpr Control Bits(std::span<const int> boxes) {
-  return {Kind::kBits, boxes[0], false, false, 0, false, {}, {}, boxes};
+  return {.kind = Kind::kBits, .id = boxes[0], .boxes = boxes};
 }
 
 struct Row {
   const wchar_t* section = L"";
   const wchar_t* key = L"";
-  Stored stored;
-  Control control;
+  Stored stored{};
+  Control control{};
   int written = 0;
   int exchanged = 0;
 };
@@ -169,9 +173,12 @@ consteval std::array<std::uint8_t, kRows> Sort(const Row (&rows)[kRows], int Row
   std::array<std::uint8_t, kRows> order{};
   std::array<bool, kRows> taken{};
   for (std::size_t index = 0; index < kRows; ++index) {
-    const std::size_t at = rows[0].*place == 0 ? index : static_cast<std::size_t>(rows[index].*place - 1);
-    if (rows[0].*place == 0 && rows[index].*place != 0) throw "some rows name their place, others do not";
-    if (at >= kRows || taken[at]) throw "the places of the rows are not 1, 2, 3 and so on, each once";
+    const std::size_t at =
+        rows[0].*place == 0 ? index : static_cast<std::size_t>(rows[index].*place - 1);
+    if (rows[0].*place == 0 && rows[index].*place != 0)
+      throw "some rows name their place, others do not";
+    if (at >= kRows || taken[at])
+      throw "the places of the rows are not 1, 2, 3 and so on, each once";
     taken[at] = true;
     order[at] = static_cast<std::uint8_t>(index);
   }
@@ -185,7 +192,8 @@ consteval Table<kRows> MakeTable(const Row (&rows)[kRows]) {
   static_assert(kRows <= 255);
   Table<kRows> table;
   for (std::size_t index = 0; index < kRows; ++index) {
-    if (!checks::Fits(rows[index], static_cast<int>(index))) throw "the control cannot show this value";
+    if (!checks::Fits(rows[index], static_cast<int>(index)))
+      throw "the control cannot show this value";
     table.rows[index] = rows[index];
   }
   table.written = checks::Sort(rows, &Row::written);

@@ -25,7 +25,8 @@ CValuePage::CValuePage(UINT templateId, const PageDescription& description)
     : CConfigDialog(templateId),
       description_(description),
       headings_(description.headings.size()),
-      labelCombos_(static_cast<std::size_t>(std::ranges::count_if(description.values.rows, ShowsLabels))) {}
+      labelCombos_(
+          static_cast<std::size_t>(std::ranges::count_if(description.values.rows, ShowsLabels))) {}
 
 BOOL CValuePage::OnInitDialog() {
   CConfigDialog::OnInitDialog();

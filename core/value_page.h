@@ -31,9 +31,9 @@ enum class WithoutStore {
 
 /// Everything here refers to constants that outlive the page.
 struct PageDescription {
-  page_values::TableView values;
-  std::span<const int> headings;
-  std::span<const EnablingRule> rules;
+  page_values::TableView values{};
+  std::span<const int> headings{};
+  std::span<const EnablingRule> rules{};
   WithoutStore withoutStore = WithoutStore::kSkip;
 };
 

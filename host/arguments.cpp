@@ -14,7 +14,7 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
-    {"config", "", 0, 0, " --page ", "open the settings; the default command"},
+    {"config", "", 0, 0, " --page --pictures ", "open the settings; the default command"},
     {"message", "", 0, 0, "", "show the test message"},
     {"get", "STORE SECTION KEY", 3, 3, "", "print a value"},
     {"set", "STORE SECTION KEY VALUE", 4, 4, " --type ", "store a value"},
@@ -60,6 +60,10 @@ constexpr Option kOptions[] = {
     {"--page", "N", "a page number", false,
      [](Arguments& to, const QString& value) { return SetNumber(to.page, value, -1, 1 << 30); },
      "config: number of the page to show first (default: 4)"},
+    {"--pictures", "DIR", "a folder", false,
+     [](Arguments& to, const QString& value) { return SetText(to.pictures, value); },
+     "config without a display: folder of the pictures (default:\n"
+     "                   pictures in the data folder)"},
     {"--type", "TYPE", "\"bool\", \"int\" or \"string\"", false,
      [](Arguments& to, const QString& value) {
        to.type = value;
@@ -168,8 +172,8 @@ QString HelpText() {
   }
   text += QStringLiteral(
       "STORE is config, master, history or fourth. A value that begins with a dash goes behind --.\n"
-      "Without a display, config works off screen: it writes a picture of every page to the folder\n"
-      "tour of the data folder, changes one setting, saves it and says what was written where.\n"
+      "Without a display, config works off screen: it writes a picture of every page, changes one\n"
+      "setting, saves it and says what was written where.\n"
       "\nOptions:\n");
   for (const Option& option : kOptions) {
     const QString call = QStringLiteral("%1 %2").arg(option.name, option.operand);

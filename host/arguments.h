@@ -12,6 +12,7 @@ struct Arguments {
   QString dataFolder;      ///< Empty: the user's own.
   QString machineFile;     ///< Empty: the real machine.
   QString languageFolder;  ///< Empty: the installed one.
+  QString pictures;        ///< Folder of the pictures; empty: inside the data folder.
   int page = 4;
   int dpi = 0;   ///< 0: that of the machine.
   QString type;  ///< "bool", "int" or "string"; empty: as stored.

@@ -90,5 +90,6 @@ bool Environment::ReportSaved(const QStringList& failed) {
     Report(QStringLiteral("The store %1 cannot be written to %2.")
                .arg(name, stores_.Path(Stores::Find(name))));
   }
+  allSaved_ = allSaved_ && failed.isEmpty();
   return failed.isEmpty();
 }

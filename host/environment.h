@@ -30,6 +30,8 @@ class Environment {
   void Report(const QString& text);
   /// Reports stores that could not be saved; whether all were.
   bool ReportSaved(const QStringList& failed);
+  /// Whether no store has failed to be saved so far.
+  bool AllSaved() const { return allSaved_; }
 
  private:
   std::wstring LanguageFile() const;
@@ -39,6 +41,7 @@ class Environment {
   Stores stores_;
   std::shared_ptr<const MachineFile> machine_;
   std::shared_ptr<HOLLERIN::MemoryLog> log_;
+  bool allSaved_ = true;
 };
 
 /// Writes a line to standard error, after the program's name.

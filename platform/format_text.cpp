@@ -51,8 +51,7 @@ std::wstring Digits(std::uint64_t value, unsigned base) {
 std::wstring Number(long long value, const Conversion& conversion) {
   const bool isSigned = conversion.letter == L'd' || conversion.letter == L'i';
   const bool minus = isSigned && value < 0;
-  const std::uint64_t magnitude =
-      minus ? 0 - static_cast<std::uint64_t>(value) : Unsigned(value);
+  const std::uint64_t magnitude = minus ? 0 - static_cast<std::uint64_t>(value) : Unsigned(value);
   std::wstring digits = Digits(magnitude, conversion.letter == L'x' ? 16 : 10);
   const std::size_t taken = digits.size() + (minus ? 1 : 0);
   if (conversion.zeros && taken < conversion.width) {
@@ -65,8 +64,8 @@ std::wstring Number(long long value, const Conversion& conversion) {
 std::optional<std::wstring> Convert(const Conversion& conversion, const FormatArgument& argument) {
   const bool wantsText = conversion.letter == L's';
   if (wantsText != std::holds_alternative<std::wstring>(argument)) return std::nullopt;
-  std::wstring text =
-      wantsText ? std::get<std::wstring>(argument) : Number(std::get<long long>(argument), conversion);
+  std::wstring text = wantsText ? std::get<std::wstring>(argument)
+                                : Number(std::get<long long>(argument), conversion);
   if (text.size() < conversion.width) text.insert(0, conversion.width - text.size(), L' ');
   return text;
 }

@@ -24,6 +24,18 @@ std::optional<std::optional<std::wstring>> Machine::LanguageFile() const { retur
 
 bool Machine::Fails(std::wstring_view) const { return false; }
 
+std::map<wchar_t, std::wstring> Machine::Drives() const { return {}; }
+
+std::optional<std::map<std::wstring, std::wstring>> Machine::Folders() const {
+  return std::nullopt;
+}
+
+bool Machine::Opens(std::wstring_view) const { return false; }
+
+std::optional<bool> Machine::PlaysSound(std::wstring_view) const { return std::nullopt; }
+
+bool Machine::UsesToolkitPickers() const { return false; }
+
 const Machine& GetMachine() { return *Current(); }
 
 void SetMachine(std::shared_ptr<const Machine> machine) {

@@ -3,6 +3,7 @@
 // The facts of the machine, behind one interface so that a program or a test can replace them.
 // The base class answers for the real machine.
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -24,6 +25,25 @@ class Machine {
 
   /// Whether the function or operation of a sibling library with this name shall answer E_FAIL.
   virtual bool Fails(std::wstring_view operation) const;
+
+  /// Where the drives of Windows-style paths lie: upper-case letter to folder of this system. The
+  /// real machine has none.
+  virtual std::map<wchar_t, std::wstring> Drives() const;
+
+  /// The placeholders of the application folders with the folders they stand for ("%DATA%"), when
+  /// the machine dictates them; empty when they are those of the user.
+  virtual std::optional<std::map<std::wstring, std::wstring>> Folders() const;
+
+  /// Opens a file or folder of this system in the desktop's place; false leaves it to the desktop.
+  virtual bool Opens(std::wstring_view nativePath) const;
+
+  /// Plays the sound file in the player's place, and says whether it plays; empty leaves it to the
+  /// player.
+  virtual std::optional<bool> PlaysSound(std::wstring_view path) const;
+
+  /// Whether file and folder pickers shall be those of the toolkit also where the desktop has its
+  /// own, so that a program can use them.
+  virtual bool UsesToolkitPickers() const;
 };
 
 /// The machine in use; the real one until SetMachine replaces it. Never null.

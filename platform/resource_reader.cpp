@@ -38,8 +38,8 @@ std::span<const std::byte> ResourceReader::Bytes(std::size_t count, const char* 
 
 WORD ResourceReader::Word(const char* what) {
   const auto piece = Bytes(2, what);
-  return static_cast<WORD>(std::to_integer<unsigned>(piece[0]) |
-                           std::to_integer<unsigned>(piece[1]) << 8);
+  return static_cast<WORD>(std::to_integer<unsigned>(piece[0]) | std::to_integer<unsigned>(piece[1])
+                                                                     << 8);
 }
 
 DWORD ResourceReader::Dword(const char* what) {

@@ -12,10 +12,6 @@
 
 namespace {
 
-constexpr const char* kKinds[] = {"label",  "separator", "picture", "frame", "check",
-                                  "radio",  "push",      "image",   "colour", "edit",
-                                  "combo",  "listbox",   "list",    "tree",  "slider"};
-
 QList<QWidget*> OpenDialogs(const WindowStack& windows) {
   QList<QWidget*> dialogs;
   for (QWidget* window : windows.All()) {
@@ -69,9 +65,7 @@ QWidget* FindByPlace(QWidget* dialog, int place) {
 
 QString ControlKind(const QWidget* widget) {
   const QString kind = widget->property("controlKind").toString();
-  const bool known = std::any_of(std::begin(kKinds), std::end(kKinds),
-                                 [&](const char* name) { return kind == QLatin1String(name); });
-  return known ? kind : QString();
+  return kind == QLatin1String("dialog") ? QString() : kind;
 }
 
 bool IsControl(const QWidget* widget) { return !ControlKind(widget).isEmpty(); }

@@ -9,8 +9,8 @@ using namespace page_values;
 constexpr const wchar_t* kOptions = L"Options";
 
 constexpr LabelRow kSortColumns[] = {
-    {-1, TextId::kColumnNone},  {0, TextId::kColumnFileName},   {2, TextId::kColumnModified},
-    {5, TextId::kColumnSize},   {25, TextId::kColumnRelevance},
+    {-1, TextId::kColumnNone}, {0, TextId::kColumnFileName},   {2, TextId::kColumnModified},
+    {5, TextId::kColumnSize},  {25, TextId::kColumnRelevance},
 };
 
 constexpr auto kValues = MakeTable({

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QSlider>
 #include <QStyle>
+#include <QWheelEvent>
 #include <clocale>
 
 #include "platform/qt/last_input.h"
@@ -56,6 +57,9 @@ class InputFilter : public QObject {
       case QEvent::MouseButtonDblClick:
         lastInput = {false, static_cast<QMouseEvent*>(event)->globalPosition().toPoint()};
         return false;
+      case QEvent::Polish:
+        RefuseFocusByWheel(object);
+        return false;
       case QEvent::Wheel:
         return LeaveWheelToParent(object, event);
       default:
@@ -64,13 +68,38 @@ class InputFilter : public QObject {
   }
 
  private:
+  static bool IsGuarded(QObject* object) {
+    return qobject_cast<QComboBox*>(object) != nullptr || qobject_cast<QSlider*>(object) != nullptr;
+  }
+
+  /// The toolkit would give some controls the focus by the wheel itself.
+  static void RefuseFocusByWheel(QObject* object) {
+    if (!IsGuarded(object)) return;
+    auto* widget = static_cast<QWidget*>(object);
+    if (widget->focusPolicy() == Qt::WheelFocus) widget->setFocusPolicy(Qt::StrongFocus);
+  }
+
   /// A person who scrolls a page must not change the controls that pass under the pointer.
   static bool LeaveWheelToParent(QObject* object, QEvent* event) {
-    const bool guarded =
-        qobject_cast<QComboBox*>(object) != nullptr || qobject_cast<QSlider*>(object) != nullptr;
-    if (!guarded || HasFocusInside(*static_cast<QWidget*>(object))) return false;
-    event->ignore();
+    if (!IsGuarded(object) || HasFocusInside(*static_cast<QWidget*>(object))) return false;
+    HandOn(*static_cast<QWidget*>(object), *static_cast<QWheelEvent*>(event));
+    event->accept();
     return true;
+  }
+
+  /// Offers the event to the parents, up to the first one that takes it.
+  static void HandOn(const QWidget& from, const QWheelEvent& wheel) {
+    const QWidget* below = &from;
+    bool taken = false;
+    while (!taken && !below->isWindow() && below->parentWidget() != nullptr) {
+      QWidget* parent = below->parentWidget();
+      QWheelEvent copy(parent->mapFromGlobal(wheel.globalPosition()), wheel.globalPosition(),
+                       wheel.pixelDelta(), wheel.angleDelta(), wheel.buttons(), wheel.modifiers(),
+                       wheel.phase(), wheel.inverted());
+      QCoreApplication::sendEvent(parent, &copy);
+      taken = copy.isAccepted();
+      below = parent;
+    }
   }
 };
 

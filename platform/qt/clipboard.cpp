@@ -1,9 +1,12 @@
 #include <QApplication>
 #include <QClipboard>
+#include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <map>
-#include <vector>
+#include <memory>
+#include <new>
 
 #include "platform/message_box.h"
 #include "platform/qt/peer.h"
@@ -85,16 +88,18 @@ BOOL CloseClipboard() {
 }
 
 HGLOBAL GlobalAlloc(UINT flags, std::size_t bytes) {
-  const bool zeros = (flags & GMEM_ZEROINIT) != 0;
-  // An empty block has an address as well.
-  const std::size_t size = std::max<std::size_t>(bytes, 1);
   Block block;
-  block.bytes.reset(zeros ? new (std::nothrow) std::byte[size]() : new (std::nothrow) std::byte[size]);
-  block.size = bytes;
+  // No object is larger than that; an empty block has an address as well.
+  if (bytes < PTRDIFF_MAX) {
+    const std::size_t size = std::max<std::size_t>(bytes, 1);
+    block.bytes.reset(new (std::nothrow) std::byte[size]);
+  }
   if (block.bytes == nullptr) {
     SetLastError(ENOMEM);
     return nullptr;
   }
+  block.size = bytes;
+  if ((flags & GMEM_ZEROINIT) != 0) std::memset(block.bytes.get(), 0, bytes);
   static std::uintptr_t last = 0;
   const auto handle = reinterpret_cast<HGLOBAL>(++last);
   Blocks().emplace(handle, std::move(block));

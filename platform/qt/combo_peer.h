@@ -7,6 +7,8 @@
 
 #include "platform/qt/peer.h"
 
+class ComboWidget;
+
 /// The widget is a QComboBox that keeps the height of one row whatever height it is given: the
 /// height of a template is that of the dropped list.
 class ComboPeer final : public Peer {
@@ -17,7 +19,7 @@ class ComboPeer final : public Peer {
   /// Fills the edit part; a combo without one keeps its text.
   void SetText(const std::wstring& text) override;
   LRESULT DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) override;
-  bool HoldsFocus() const override;
+  bool HoldsFocus() const override { return dropped_; }
 
   /// The row it got, CB_ERR when there is no such place; a row of -1 appends.
   int Insert(int row, const QString& text);
@@ -31,11 +33,12 @@ class ComboPeer final : public Peer {
   /// The first row behind `after`, wrapping around, with that text, case aside.
   int FindExact(int after, const QString& text) const;
 
-  /// The row's DWORD_PTR, indent in pixels, or text colour.
+  /// What is kept with a row beside its text and colour: its DWORD_PTR, its indent in pixels.
   enum RowRole { DataRole = Qt::UserRole, IndentRole };
   bool SetRow(int row, int role, const QVariant& value);
   QVariant Row(int row, int role) const;
 
+  int Count() const { return Combo().count(); }
   bool Dropped() const { return dropped_; }
   void Drop(bool drop);
   void SetDroppedWidth(int width);
@@ -53,12 +56,20 @@ class ComboPeer final : public Peer {
   friend class ComboWidget;
 
   QComboBox& Combo() const { return static_cast<QComboBox&>(*widget); }
+  ComboWidget& Widget() const;
   bool HasRow(int row) const { return row >= 0 && row < Combo().count(); }
-  void OnActivated();
-  void OnDropped(bool dropped);
+  /// The selected row whether the list is dropped or not; none once the edit part says otherwise.
+  int Settled() const;
 
-  /// The selection that the parent knows of.
-  int known_ = -1;
+  void OnChosen();
+  void OnEdited();
+  void OnAboutToDrop();
+  void OnClosed();
+  /// Highlights the row with the edited text in the list that has just dropped, or none.
+  void HighlightText();
+
+  int known_ = -1;     ///< The selection before whatever the user does next.
+  int previous_ = -1;  ///< The selection before the user's last choice.
   bool dropped_ = false;
   int droppedWidth_ = 0;
 };

@@ -10,6 +10,7 @@
 #include <QToolTip>
 
 #include "platform/qt/gdi_types.h"
+#include "platform/qt/window_destruction.h"
 #include "platform/qt/window_placement.h"
 
 namespace {
@@ -158,7 +159,10 @@ class EventFilter : public QObject {
 void InstallEventFilter(QWidget& widget) {
   // Belongs to the application object, and is made anew for the next one.
   static QPointer<EventFilter> filter;
-  if (filter == nullptr) filter = new EventFilter(QCoreApplication::instance());
+  if (filter == nullptr) {
+    filter = new EventFilter(QCoreApplication::instance());
+    qAddPostRoutine(DestroyAllWindows);
+  }
   widget.installEventFilter(filter);
 }
 

@@ -29,7 +29,7 @@ int QtFlags(UINT format) {
   return flags;
 }
 
-QRect ToQt(const CRect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
+QRect ToQtRect(const CRect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
 std::unique_ptr<CDC::Implementation> BorrowPainter(QPainter& painter) {
   auto surface = std::make_unique<CDC::Implementation>();
@@ -61,29 +61,29 @@ CDC::~CDC() = default;
 
 void CDC::SelectFont(const CFont& font) { implementation_->font = ToQtFont(font); }
 
-void CDC::SetTextColor(COLORREF colour) { implementation_->textColour = ::ToQt(colour); }
+void CDC::SetTextColor(COLORREF colour) { implementation_->textColour = ToQt(colour); }
 
 void CDC::DrawText(const CString& text, const CRect& rect, UINT format) {
   QPainter& painter = *implementation_->painter;
   if (!painter.isActive()) return;
-  QString shown = WithoutMarks(::ToQt(text.Str()));
+  QString shown = WithoutMarks(ToQt(text.Str()));
   if ((format & DT_SINGLELINE) != 0 && (format & DT_END_ELLIPSIS) != 0) {
     shown = QFontMetrics(implementation_->font).elidedText(shown, Qt::ElideRight, rect.Width());
   }
   painter.setFont(implementation_->font);
   painter.setPen(implementation_->textColour);
-  painter.drawText(::ToQt(rect), QtFlags(format), shown);
+  painter.drawText(ToQtRect(rect), QtFlags(format), shown);
 }
 
 void CDC::FillSolidRect(const CRect& rect, COLORREF colour) {
   if (implementation_->painter->isActive()) {
-    implementation_->painter->fillRect(::ToQt(rect), ::ToQt(colour));
+    implementation_->painter->fillRect(ToQtRect(rect), ToQt(colour));
   }
 }
 
 CSize CDC::GetTextExtent(const CString& text) const {
   const QFontMetrics metrics(implementation_->font);
-  return {metrics.horizontalAdvance(WithoutMarks(::ToQt(text.Str()))), metrics.height()};
+  return {metrics.horizontalAdvance(WithoutMarks(ToQt(text.Str()))), metrics.height()};
 }
 
 CPaintDC::CPaintDC(CWnd* window) : CDC(BeginPaint(window)) {}

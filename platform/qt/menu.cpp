@@ -161,7 +161,7 @@ BOOL TrackPopupMenuAtCursor(HMENU popup, CWnd* owner) {
   FillPopup(*menu, popup);
   const QAction* chosen = menu->exec(PopupPosition());
   const UINT command = chosen != nullptr ? chosen->data().toUInt() : 0;
-  if (menu != nullptr) menu->deleteLater();
+  delete menu.data();
   if (command != 0 && IsWindow(window)) SendMessage(window, WM_COMMAND, command, 0);
   return TRUE;
 }

@@ -79,9 +79,12 @@ int ResultOf(int button) {
   return 0;
 }
 
+/// Null when the application has no window that a person can see.
 QWidget* ActiveTopLevel() {
   QWidget* modal = QApplication::activeModalWidget();
-  return modal != nullptr ? modal : QApplication::activeWindow();
+  QWidget* active = modal != nullptr ? modal : QApplication::activeWindow();
+  // A window may stay the active one for a while after it was closed.
+  return active != nullptr && active->isVisible() ? active : nullptr;
 }
 
 /// A task-modal box has no owner, but must still stay above the window that it blocks.
@@ -110,8 +113,8 @@ void ArrangeText(QMessageBox& box, const QString& heading) {
   // The box wraps its text at half the screen, but never beyond 500 pixels.
   const int wrapWidth = qMin(screen.width() / 2, 500);
   const QSize largest(screen.width() * 3 / 5, screen.height() * 3 / 5);
-  const QRect wrapped = label->fontMetrics().boundingRect(
-      QRect(0, 0, wrapWidth, 1 << 20), Qt::TextWordWrap, label->text());
+  const QRect wrapped = label->fontMetrics().boundingRect(QRect(0, 0, wrapWidth, 1 << 20),
+                                                          Qt::TextWordWrap, label->text());
   const bool scrolls = wrapped.height() > largest.height() || wrapped.width() > largest.width();
   if (!scrolls && heading.isEmpty()) return;
 
@@ -151,7 +154,7 @@ int Show(QWidget* parent, const BCGP_MSGBOXPARAMS& parameters) {
   ArrangeText(*box, ToQt(parameters.lpszTitle));
 
   const int result = ResultOf(box->exec());
-  if (box != nullptr) box->deleteLater();
+  delete box.data();
   return result != 0 ? result : ResultOf(kind.escape);
 }
 

@@ -79,19 +79,23 @@ void SetPeerKind(Peer& peer, ControlKind kind) {
 }
 
 LRESULT Peer::DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) {
-  defaultReached = true;
   switch (message) {
     case WM_SETFONT: {
       const auto* font = reinterpret_cast<const CFont*>(wParam);
       SetFont(ToQtFont(font != nullptr ? *font : CFont()));
       return 0;
     }
-    case WM_CONTEXTMENU:
+    case WM_PAINT:
+      defaultReached = true;
+      return 0;
+    case WM_CONTEXTMENU: {
       // Edits and combos bring their own menu; the others ask the windows around them.
-      if (kind == ControlKind::Edit || kind == ControlKind::Combo) return 0;
-      if (FindPeer(parent) != nullptr) return ::SendMessage(parent, message, wParam, lParam);
+      const bool ownMenu = kind == ControlKind::Edit || kind == ControlKind::Combo;
+      if (!ownMenu && FindPeer(parent) != nullptr)
+        return ::SendMessage(parent, message, wParam, lParam);
       if (Peer* asked = FindPeer(reinterpret_cast<HWND>(wParam))) asked->defaultReached = true;
       return 0;
+    }
     default:
       return 0;
   }

@@ -64,7 +64,7 @@ struct Peer {
   int modalDepth = 0;                  ///< Number of modal runs when the window was made.
   bool exchanging = false;             ///< Inside UpdateData; the notifications of controls rest.
   bool destroying = false;
-  bool defaultReached = false;  ///< Set by DefaultProcedure: the widget shall handle the event.
+  bool defaultReached = false;  ///< WM_PAINT or WM_CONTEXTMENU is left to the widget.
 
   /// The window's own behaviour, last resort of every message. An override hands what it does not
   /// know to this one.

@@ -8,6 +8,7 @@
 #include "platform/qt/peer.h"
 
 class CImageList;
+class TreeWidget;
 
 /// What a tree keeps with each row, beside its text.
 enum TreeRole {
@@ -15,50 +16,58 @@ enum TreeRole {
   TreeDataRole,                   ///< The row's DWORD_PTR as an integer.
   TreeImageRole,                  ///< Index of the image in the tree's list; -1 for none.
   TreeSelectedImageRole,
-  TreeExpandedOnceRole,  ///< The parent has been asked for leave to expand the row.
+  TreeExpandedOnceRole,  ///< The parent has already been asked for leave to expand the row.
 };
 
-/// The widget is a QTreeWidget of one column. Handles of rows are never used twice.
+/// The widget is a QTreeWidget of one column. Handles of rows are never used twice, so that one
+/// that outlives its row is recognised.
 class TreePeer final : public Peer {
  public:
   TreePeer(DWORD style, const std::wstring& text, QWidget* parent);
 
   LRESULT DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-  /// `after` is a sibling; any other value appends.
-  HTREEITEM Insert(const QString& text, int image, int selectedImage, HTREEITEM parent,
+  /// Inserts behind the sibling `after`; any other value appends. Null for a stale parent.
+  HTREEITEM Insert(const QString& text, int image, int selectedImage, HTREEITEM parentRow,
                    HTREEITEM after);
   /// Sends no notification.
   void Clear();
   /// Null for a stale handle.
   QTreeWidgetItem* Find(HTREEITEM handle) const;
+  /// Null for no row.
   static HTREEITEM HandleOf(const QTreeWidgetItem* item);
+  /// The row's item data; 0 for no row.
+  DWORD_PTR Data(HTREEITEM handle) const;
 
   HTREEITEM Selected() const;
-  /// Asks the parent; false when it refuses or the handle is stale. Null selects nothing.
+  /// Asks the parent, moves the selection, and tells the parent. False when the parent refuses or
+  /// the handle is stale. Null selects nothing.
   bool Select(HTREEITEM handle);
+  /// By the program: the parent is asked once for each row. False when there is nothing to do.
   bool Expand(HTREEITEM handle, UINT code);
+  /// By the user: the parent is asked every time.
+  void Toggle(HTREEITEM handle, bool expand);
 
   void SetImages(const CImageList* images);
   const CImageList* Images() const { return images_; }
   void SetRowHeight(int height);
+  /// 0 while the rows have their natural height.
+  int ChosenRowHeight() const { return rowHeight_; }
   int RowHeight() const;
 
  private:
-  friend class TreeSelectionModel;
-  friend class TreeWidget;
-
-  QTreeWidget& Tree() const { return static_cast<QTreeWidget&>(*widget); }
-  bool AskSelection(QTreeWidgetItem* from, QTreeWidgetItem* to);
-  bool AskExpansion(QTreeWidgetItem* item, UINT action);
-  /// By the user: every expansion is asked for.
-  void Toggle(QTreeWidgetItem* item, bool expand);
-  bool LeaveChildren(QTreeWidgetItem* item, bool ask);
-  void RemoveChildren(QTreeWidgetItem* item);
-  void Forget(QTreeWidgetItem* item);
+  TreeWidget& Tree() const;
+  bool AskSelection(HTREEITEM from, HTREEITEM to);
+  bool AskExpansion(HTREEITEM handle, UINT action);
+  bool ExpandOnce(HTREEITEM handle);
+  bool Collapse(HTREEITEM handle, bool removeChildren);
+  bool IsSelectionBelow(const QTreeWidgetItem& item) const;
+  void RemoveChildren(QTreeWidgetItem& item);
+  void Forget(const QTreeWidgetItem& item);
 
   QHash<quintptr, QTreeWidgetItem*> rows_;
   quintptr lastHandle_ = 0;
   const CImageList* images_ = nullptr;
   int rowHeight_ = 0;
+  bool asking_ = false;  ///< The parent is being asked; nothing else moves the selection meanwhile.
 };

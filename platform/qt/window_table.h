@@ -37,7 +37,3 @@ class WindowTable {
   std::vector<std::uint32_t> free_;
   std::unordered_map<const QWidget*, HWND> byWidget_;
 };
-
-/// Deletes the widgets of destroyed windows that still wait for the event loop. Only for code that
-/// no window's event can have called.
-void DeleteDestroyedWindows();

@@ -108,8 +108,7 @@ bool TemporaryFile::IsNameFor(std::string_view name, std::string_view entry) {
 }
 
 void TemporaryFile::RemoveAbandoned(const std::string& path) {
-  const Descriptor descriptor(
-      open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  const Descriptor descriptor(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   struct stat status {};
   if (!descriptor || fstat(descriptor.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return;
   if (flock(descriptor.Get(), LOCK_EX | LOCK_NB) == 0) unlink(path.c_str());

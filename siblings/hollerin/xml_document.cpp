@@ -39,8 +39,7 @@ bool StartsReference(std::string_view text) {
 
 /// The end of the comment, the character data or the instruction that starts here; 0 when none.
 std::size_t LiteralLength(std::string_view text) {
-  constexpr std::string_view kLiterals[][2] = {
-      {"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
+  constexpr std::string_view kLiterals[][2] = {{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
   for (const auto& [start, stop] : kLiterals) {
     if (!text.starts_with(start)) continue;
     const std::size_t end = text.find(stop, start.size());

@@ -1,0 +1,35 @@
+#include "host/dialog_commands.h"
+
+#include <QGuiApplication>
+
+#include "host/drive/entry_runner.h"
+#include "host/environment.h"
+#include "host/exit_status.h"
+#include "host/tour.h"
+
+namespace {
+
+int Show(Environment& environment, const QString& entry) {
+  EntryRunner entries(environment);
+  if (QString error; !entries.Load(error)) {
+    environment.Report(error);
+    return kExitLibrary;
+  }
+  const EntryResult result = entries.Run(entry, environment.GetArguments().page);
+  if (!result.error.isEmpty()) return kExitLibrary;
+  if (!environment.AllSaved()) return kExitFile;
+  return result.status == 0 ? kExitDone : kExitNotConfirmed;
+}
+
+}  // namespace
+
+int RunConfig(Environment& environment) {
+  if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
+    return RunUnseenConfig(environment);
+  }
+  return Show(environment, QStringLiteral("OpenConfigDialog"));
+}
+
+int RunMessage(Environment& environment) {
+  return Show(environment, QStringLiteral("ShowMessage"));
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+// The commands that open a dialog for a person. Each returns an exit status.
+
+class Environment;
+
+int RunConfig(Environment& environment);
+int RunMessage(Environment& environment);

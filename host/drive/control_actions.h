@@ -1,0 +1,24 @@
+#pragma once
+
+// What a person does with one control. Every action throws RequestError when a person could not do
+// it.
+
+#include <QPointer>
+#include <QString>
+#include <functional>
+#include <optional>
+
+class QWidget;
+class WindowStack;
+
+/// Checks that a person can reach the control: shown, enabled, and nothing in front of it.
+void CheckUsable(const WindowStack& windows, QWidget* control);
+
+void ClickControl(QWidget* control);
+void TypeInto(QWidget* control, const QString& text);
+/// `index` or `text` names the row.
+void PickRow(QWidget* control, std::optional<int> index, const QString& text);
+void SlideTo(QWidget* control, int value);
+
+/// Throws RequestError unless the control is of one of these kinds (between blanks).
+void CheckKind(const QWidget* control, const QString& kinds, const QString& verb);

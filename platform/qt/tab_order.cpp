@@ -1,0 +1,94 @@
+#include "platform/qt/tab_order.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <vector>
+
+namespace {
+
+bool TakesKeys(const Peer& peer) {
+  switch (peer.kind) {
+    case ControlKind::Dialog:
+    case ControlKind::Label:
+    case ControlKind::Separator:
+    case ControlKind::Picture:
+    case ControlKind::Frame:
+      return false;
+    default:
+      return true;
+  }
+}
+
+std::vector<const Peer*> Children(const Peer& dialog) {
+  std::vector<const Peer*> children;
+  for (const ChildWindow& child : dialog.children) {
+    const Peer* peer = FindPeer(child.window);
+    if (peer != nullptr && peer->widget != nullptr) children.push_back(peer);
+  }
+  return children;
+}
+
+void Collect(const Peer& dialog, std::vector<QWidget*>& chain);
+
+void CollectPages(const std::vector<const Peer*>& children, std::vector<QWidget*>& chain) {
+  for (const Peer* child : children)
+    if (child->kind == ControlKind::Dialog) Collect(*child, chain);
+}
+
+void Collect(const Peer& dialog, std::vector<QWidget*>& chain) {
+  const std::vector<const Peer*> children = Children(dialog);
+  bool pagesDone = false;
+  for (const Peer* child : children) {
+    if (!pagesDone && child->kind == ControlKind::Push) {
+      CollectPages(children, chain);
+      pagesDone = true;
+    }
+    if (TakesKeys(*child)) chain.push_back(child->widget);
+  }
+  if (!pagesDone) CollectPages(children, chain);
+}
+
+const Peer* TopDialog(HWND window) {
+  const Peer* peer = FindPeer(window);
+  while (peer != nullptr && FindPeer(peer->parent) != nullptr) peer = FindPeer(peer->parent);
+  return peer;
+}
+
+}  // namespace
+
+void ArrangeTabOrder(HWND window) {
+  const Peer* top = TopDialog(window);
+  if (top == nullptr) return;
+  std::vector<QWidget*> chain;
+  Collect(*top, chain);
+  for (std::size_t i = 1; i < chain.size(); ++i) QWidget::setTabOrder(chain[i - 1], chain[i]);
+}
+
+void ApplyTabStop(const Peer& control) {
+  if (!TakesKeys(control) || control.widget == nullptr) return;
+  const int policy = control.widget->focusPolicy();
+  const bool stops = (control.style & WS_TABSTOP) != 0;
+  const int wanted = stops ? policy | Qt::TabFocus : policy & ~Qt::TabFocus;
+  if (wanted != policy) control.widget->setFocusPolicy(static_cast<Qt::FocusPolicy>(wanted));
+}
+
+void GroupRadioButtons(const Peer& dialog) {
+  QButtonGroup* group = nullptr;
+  for (const Peer* child : Children(dialog)) {
+    if ((child->style & WS_GROUP) != 0) group = nullptr;
+    if (child->kind != ControlKind::Radio) continue;
+    if (group == nullptr) group = new QButtonGroup(dialog.widget);
+    if (auto* button = qobject_cast<QAbstractButton*>(child->widget)) group->addButton(button);
+  }
+}
+
+QWidget* FirstTabStop(const Peer& dialog) {
+  std::vector<QWidget*> chain;
+  Collect(dialog, chain);
+  for (QWidget* widget : chain) {
+    const bool stops = (widget->focusPolicy() & Qt::TabFocus) != 0;
+    if (stops && widget->isEnabledTo(dialog.widget) && widget->isVisibleTo(dialog.widget))
+      return widget;
+  }
+  return nullptr;
+}

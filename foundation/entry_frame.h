@@ -29,15 +29,15 @@ BRISQUEL::Status RunEntryPoint(UiLibrary uiLibrary, const BRISQUEL::StoreHandle&
   const auto putBack = [&] {
     if (store != nullptr) store->LoadFromText(snapshot);
   };
+  auto dialog = std::forward<MakeDialog>(makeDialog)();
   bool confirmed = false;
   try {
-    auto dialog = std::forward<MakeDialog>(makeDialog)();
     confirmed = dialog.DoModal() == IDOK;
-    if (confirmed) return 0;
-    putBack();
-    return 1;
   } catch (...) {
-    if (!confirmed) putBack();
+    putBack();
     throw;
   }
+  if (confirmed) return 0;
+  putBack();
+  return 1;
 }

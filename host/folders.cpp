@@ -23,12 +23,12 @@ QString DataFolder(const QString& wanted) {
 
 QString LanguageFolder(const QString& wanted) {
   if (!wanted.isEmpty()) return QDir(wanted).absolutePath();
-  for (const char* candidate :
-       {"../share/quarrow/lang", "lang", "../../lang", "../../../lang", "../../../../lang"}) {
+  const char* const kInstalled = "../share/quarrow/lang";
+  for (const char* candidate : {kInstalled, "lang", "../../lang", "../../../lang"}) {
     const QString folder = BesideProgram(candidate);
     if (QFileInfo::exists(folder + "/lang-en.xml")) return folder;
   }
-  return {};
+  return BesideProgram(kInstalled);
 }
 
 QString ApplicationFolder(const QString& dataFolder) {

@@ -9,7 +9,7 @@
 QString DataFolder(const QString& wanted);
 
 /// The folder of the language files: `wanted`, or the installed one, or that of the source tree that
-/// the program was built from. Absolute; empty when there is none.
+/// the program was built in. Absolute; where none has a language file, the installed one.
 QString LanguageFolder(const QString& wanted);
 
 /// The folder of "master.revert.xml": the data folder when it has that file, so that a user can

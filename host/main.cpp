@@ -13,6 +13,7 @@
 #include "host/tour.h"
 #include "platform/application.h"
 #include "platform/message_box.h"
+#include "platform/messages.h"
 
 namespace {
 

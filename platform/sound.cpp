@@ -2,6 +2,7 @@
 
 #include <alsa/asoundlib.h>
 #include <sndfile.h>
+#include <sys/stat.h>
 
 #include <array>
 #include <atomic>
@@ -33,8 +34,12 @@ using Device = std::unique_ptr<snd_pcm_t, CloseDevice>;
 /// Shared by the caller and the thread that plays; set once the sound shall stop.
 using StopFlag = std::shared_ptr<std::atomic<bool>>;
 
+/// Without a device the sound system would explain itself on standard error.
+void KeepQuiet(const char*, int, const char*, int, const char*, ...) {}
+
 /// The default device for that sound; it never makes its user wait. Null when there is none.
 Device OpenDevice(const SF_INFO& format) {
+  snd_lib_error_set_handler(KeepQuiet);
   snd_pcm_t* opened = nullptr;
   if (snd_pcm_open(&opened, "default", SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK) < 0) return {};
   Device device(opened);
@@ -88,7 +93,10 @@ void Play(SoundFile file, SF_INFO format, StopFlag stop, std::promise<bool> begu
   PlayOut(device.get(), *stop);
 }
 
+/// Only a regular file: opening another kind could wait for ever.
 SoundFile OpenSound(const std::string& name, SF_INFO& format) {
+  struct stat status = {};
+  if (stat(name.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
   SoundFile file(sf_open(name.c_str(), SFM_READ, &format));
   const bool usable = file != nullptr && format.channels > 0 && format.samplerate > 0 &&
                       format.channels <= static_cast<int>(kBlock);

@@ -52,7 +52,8 @@ class CWnd : public CCmdTarget {
   void Invalidate();
   void UpdateWindow();
 
-  /// In screen coordinates.
+  /// In screen coordinates. The frame that the desktop draws around a top-level dialog is not
+  /// counted here or in any other position or size.
   void GetWindowRect(CRect& rect) const;
   void GetClientRect(CRect& rect) const;
   void ScreenToClient(CRect& rect) const;

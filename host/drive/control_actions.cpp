@@ -144,7 +144,7 @@ void PickInList(QListWidget& list, const WantedRow& wanted) {
 
 bool TakesText(QWidget* control) {
   const auto* combo = qobject_cast<QComboBox*>(control);
-  return combo != nullptr ? combo->isEditable() : ControlKind(control) == "edit";
+  return combo != nullptr ? combo->isEditable() : KindOf(control) == "edit";
 }
 
 }  // namespace
@@ -158,7 +158,7 @@ void CheckUsable(const WindowStack& windows, QWidget* control) {
 }
 
 void CheckKind(const QWidget* control, const QString& kinds, const QString& verb) {
-  if (kinds.contains(' ' + ControlKind(control) + ' ')) return;
+  if (kinds.contains(' ' + KindOf(control) + ' ')) return;
   throw RequestError(
       QStringLiteral("The verb \"%1\" does not fit %2.").arg(verb, NameControl(control)));
 }

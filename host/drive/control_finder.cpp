@@ -38,7 +38,7 @@ QString NearControls(int number, QList<QWidget*> controls) {
   QStringList names;
   for (QWidget* control : controls) {
     if (ControlNumber(control) < 0) continue;
-    names << QStringLiteral("%1 (%2)").arg(ControlNumber(control)).arg(ControlKind(control));
+    names << QStringLiteral("%1 (%2)").arg(ControlNumber(control)).arg(KindOf(control));
     if (names.size() == 5) break;
   }
   return names.isEmpty() ? QStringLiteral("none") : names.join(QStringLiteral(", "));
@@ -63,12 +63,12 @@ QWidget* FindByPlace(QWidget* dialog, int place) {
 
 }  // namespace
 
-QString ControlKind(const QWidget* widget) {
+QString KindOf(const QWidget* widget) {
   const QString kind = widget->property("controlKind").toString();
   return kind == QLatin1String("dialog") ? QString() : kind;
 }
 
-bool IsControl(const QWidget* widget) { return !ControlKind(widget).isEmpty(); }
+bool IsControl(const QWidget* widget) { return !KindOf(widget).isEmpty(); }
 
 bool IsDialog(const QWidget* widget) {
   return widget->property("templateNumber").isValid() && !IsControl(widget);
@@ -150,6 +150,6 @@ QWidget* FindControl(const WindowStack& windows, const Request& request) {
 QString NameControl(const QWidget* control) {
   return QStringLiteral("control %1 (%2) of template %3")
       .arg(ControlNumber(control))
-      .arg(ControlKind(control))
+      .arg(KindOf(control))
       .arg(TemplateNumber(DialogOf(const_cast<QWidget*>(control))));
 }

@@ -15,7 +15,7 @@ bool IsControl(const QWidget* widget);
 int TemplateNumber(const QWidget* widget);
 int ControlNumber(const QWidget* widget);
 /// "label", "check", ...; empty for a widget that is no control.
-QString ControlKind(const QWidget* widget);
+QString KindOf(const QWidget* widget);
 
 /// The dialog or page that the control belongs to, or the widget itself when it is one; null for a
 /// widget of another window.

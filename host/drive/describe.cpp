@@ -152,7 +152,7 @@ QJsonArray DescribeWindows(const WindowStack& windows) {
 
 QJsonObject DescribeControl(QWidget* control) {
   const QWidget* dialog = DialogOf(control);
-  const QString kind = ControlKind(control);
+  const QString kind = KindOf(control);
   const HWND handle = HandleOf(control);
   const std::wstring tooltip = GetToolTipText(handle);
   QJsonObject description = {

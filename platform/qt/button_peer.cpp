@@ -1,19 +1,18 @@
 #include "platform/qt/button_peer.h"
 
+#include <QButtonGroup>
 #include <QGroupBox>
 
+#include "platform/controls.h"
 #include "platform/qt/button_widgets.h"
 #include "platform/qt/control_parts.h"
 
 namespace {
 
-constexpr const char* kRadioGroupProperty = "radioGroup";
-
 QWidget* MakeGroupBox(QWidget* parent) {
   auto* box = new QGroupBox(parent);
-  // The controls inside it are its siblings: it lies below them and takes no clicks from them.
+  // The controls inside it are its siblings, which must get their clicks.
   box->setAttribute(Qt::WA_TransparentForMouseEvents);
-  box->lower();
   return box;
 }
 
@@ -25,49 +24,37 @@ QWidget* MakePushButton(DWORD style, QWidget* parent) {
 
 QWidget* MakeRadioButton(DWORD style, QWidget* parent) {
   auto* button = new RadioButtonWidget(style, parent);
-  // The groups of a template are not those of the parent widget.
+  // The groups are those of the template, not all radio buttons of the parent.
   button->setAutoExclusive(false);
-  if ((style & BS_TYPEMASK) == BS_AUTORADIOBUTTON) RadioGroup(parent).addButton(button);
   return button;
 }
 
 }  // namespace
 
-QButtonGroup& RadioGroup(QWidget* parent) {
-  auto* group = parent->property(kRadioGroupProperty).value<QButtonGroup*>();
-  if (group == nullptr) {
-    group = new QButtonGroup(parent);
-    parent->setProperty(kRadioGroupProperty, QVariant::fromValue(group));
-  }
-  return *group;
-}
-
-void EndRadioGroup(QWidget* parent) { parent->setProperty(kRadioGroupProperty, QVariant()); }
-
-ButtonPeer::ButtonPeer(DWORD controlStyle, const std::wstring& text, QWidget* parent) {
+ButtonPeer::ButtonPeer(DWORD controlStyle, const std::wstring& initialText, QWidget* host) {
   switch (controlStyle & BS_TYPEMASK) {
     case BS_CHECKBOX:
     case BS_AUTOCHECKBOX:
     case BS_3STATE:
     case BS_AUTO3STATE:
       kind = ControlKind::Check;
-      widget = new CheckBoxWidget(controlStyle, parent);
+      widget = new CheckBoxWidget(controlStyle, host);
       break;
     case BS_RADIOBUTTON:
     case BS_AUTORADIOBUTTON:
       kind = ControlKind::Radio;
-      widget = MakeRadioButton(controlStyle, parent);
+      widget = MakeRadioButton(controlStyle, host);
       break;
     case BS_GROUPBOX:
       kind = ControlKind::Frame;
-      widget = MakeGroupBox(parent);
+      widget = MakeGroupBox(host);
       break;
     default:
       kind = ControlKind::Push;
-      widget = MakePushButton(controlStyle, parent);
+      widget = MakePushButton(controlStyle, host);
       break;
   }
-  ButtonPeer::SetText(text);
+  ButtonPeer::SetText(initialText);
   if (QAbstractButton* button = Button()) {
     QObject::connect(button, &QAbstractButton::clicked, button, [button] {
       if (auto* peer = PeerOf<ButtonPeer>(button)) peer->OnClicked();
@@ -75,10 +62,10 @@ ButtonPeer::ButtonPeer(DWORD controlStyle, const std::wstring& text, QWidget* pa
   }
 }
 
-void ButtonPeer::SetText(const std::wstring& text) {
-  text_ = text;
-  if (QAbstractButton* button = Button()) return button->setText(ToQt(text));
-  static_cast<QGroupBox&>(*widget).setTitle(ToQt(text));
+void ButtonPeer::SetText(const std::wstring& newText) {
+  text = newText;
+  if (QAbstractButton* button = Button()) return button->setText(ToQt(newText));
+  static_cast<QGroupBox&>(*widget).setTitle(ToQt(newText));
 }
 
 int ButtonPeer::GetCheck() const {

@@ -10,10 +10,9 @@
 /// The widget is a QPushButton, QCheckBox, QRadioButton or QGroupBox, as the style says.
 class ButtonPeer final : public Peer {
  public:
-  ButtonPeer(DWORD style, const std::wstring& text, QWidget* parent);
+  ButtonPeer(DWORD style, const std::wstring& initialText, QWidget* host);
 
-  std::wstring Text() const override { return text_; }
-  void SetText(const std::wstring& text) override;
+  void SetText(const std::wstring& newText) override;
 
   /// BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE. A push button keeps the state as a mark that
   /// it is drawn with.
@@ -36,7 +35,6 @@ class ButtonPeer final : public Peer {
   void SetRadio(bool checked);
   void OnClicked();
 
-  std::wstring text_;
   int pushCheck_ = 0;
   QPixmap image_;
   int imageIndex_ = -1;

@@ -1,5 +1,6 @@
 #include "platform/qt/button_widgets.h"
 
+#include <QButtonGroup>
 #include <QStyleOption>
 #include <QStylePainter>
 
@@ -110,5 +111,6 @@ void RadioButtonWidget::paintEvent(QPaintEvent* event) {
 }
 
 void RadioButtonWidget::nextCheckState() {
-  if (IsAutomatic(style_)) setChecked(true);
+  // The group calls it as well, to clear the button that was checked before.
+  if (IsAutomatic(style_)) setChecked(group() == nullptr || !isChecked());
 }

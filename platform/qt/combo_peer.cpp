@@ -56,10 +56,10 @@ void ChangeRows(QComboBox& combo, int selectionAfter, Change&& change) {
 
 }  // namespace
 
-ComboPeer::ComboPeer(DWORD controlStyle, const std::wstring&, QWidget* parent) {
+ComboPeer::ComboPeer(DWORD controlStyle, const std::wstring&, QWidget* host) {
   kind = ControlKind::Combo;
   const bool editable = (controlStyle & CBS_DROPDOWNLIST) == CBS_DROPDOWN;
-  auto* combo = new ComboWidget(editable, parent);
+  auto* combo = new ComboWidget(editable, host);
   widget = combo;
   QObject::connect(combo, &QComboBox::activated, combo, [combo] {
     if (auto* peer = PeerOf<ComboPeer>(combo)) peer->OnChosen();
@@ -76,8 +76,8 @@ std::wstring ComboPeer::Text() const {
   return FromQt(Combo().currentText());
 }
 
-void ComboPeer::SetText(const std::wstring& text) {
-  if (QLineEdit* edit = Combo().lineEdit()) edit->setText(ToQt(text));
+void ComboPeer::SetText(const std::wstring& newText) {
+  if (QLineEdit* edit = Combo().lineEdit()) edit->setText(ToQt(newText));
   known_ = Settled();
 }
 
@@ -100,19 +100,19 @@ LRESULT ComboPeer::DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) 
   }
 }
 
-int ComboPeer::Insert(int row, const QString& text) {
+int ComboPeer::Insert(int row, const QString& rowText) {
   const int count = Combo().count();
   if (row > count) return CB_ERR;
   const int place = row < 0 ? count : row;
   const int current = Combo().currentIndex();
   ChangeRows(Combo(), current >= place ? current + 1 : current,
-             [&] { Combo().insertItem(place, text); });
+             [&] { Combo().insertItem(place, rowText); });
   known_ = Settled();
   return place;
 }
 
-int ComboPeer::Add(const QString& text) {
-  return Insert((style & CBS_SORT) != 0 ? SortedPlace(Combo(), text) : -1, text);
+int ComboPeer::Add(const QString& rowText) {
+  return Insert((style & CBS_SORT) != 0 ? SortedPlace(Combo(), rowText) : -1, rowText);
 }
 
 int ComboPeer::Remove(int row) {
@@ -149,12 +149,12 @@ int ComboPeer::Select(int row) {
   return place;
 }
 
-int ComboPeer::FindExact(int after, const QString& text) const {
+int ComboPeer::FindExact(int after, const QString& rowText) const {
   const int count = Combo().count();
   const int start = after < 0 || after >= count ? 0 : after + 1;
   for (int step = 0; step < count; ++step) {
     const int row = (start + step) % count;
-    if (Combo().itemText(row).compare(text, Qt::CaseInsensitive) == 0) return row;
+    if (Combo().itemText(row).compare(rowText, Qt::CaseInsensitive) == 0) return row;
   }
   return CB_ERR;
 }
@@ -217,7 +217,11 @@ bool ComboPeer::SetEditSelection(int start, int end) {
 LRESULT ComboPeer::Notify(UINT code) {
   const HWND self = handle;
   auto* combo = dynamic_cast<CComboBox*>(attached);
-  if (combo != nullptr && combo->OnReflectedNotification(code, previous_)) return 0;
+  if (combo != nullptr) {
+    bool kept = false;
+    GuardToolkitCall([&] { kept = combo->OnReflectedNotification(code, previous_) != FALSE; });
+    if (kept) return 0;
+  }
   const auto* peer = FindPeerAs<ComboPeer>(self);  // The object may have ended the window.
   return peer != nullptr ? NotifyCommand(*peer, code) : 0;
 }

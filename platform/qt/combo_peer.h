@@ -13,25 +13,25 @@ class ComboWidget;
 /// height of a template is that of the dropped list.
 class ComboPeer final : public Peer {
  public:
-  ComboPeer(DWORD style, const std::wstring& text, QWidget* parent);
+  ComboPeer(DWORD style, const std::wstring& initialText, QWidget* host);
 
   std::wstring Text() const override;
   /// Fills the edit part; a combo without one keeps its text.
-  void SetText(const std::wstring& text) override;
+  void SetText(const std::wstring& newText) override;
   LRESULT DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool HoldsFocus() const override { return dropped_; }
 
   /// The row it got, CB_ERR when there is no such place; a row of -1 appends.
-  int Insert(int row, const QString& text);
+  int Insert(int row, const QString& rowText);
   /// Inserts in the order of the combo's style.
-  int Add(const QString& text);
+  int Add(const QString& rowText);
   int Remove(int row);
   void Clear();
 
   int Selection() const;
   int Select(int row);
   /// The first row behind `after`, wrapping around, with that text, case aside.
-  int FindExact(int after, const QString& text) const;
+  int FindExact(int after, const QString& rowText) const;
 
   /// What is kept with a row beside its text and colour: its DWORD_PTR, its indent in pixels.
   enum RowRole { DataRole = Qt::UserRole, IndentRole };

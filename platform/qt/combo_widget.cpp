@@ -116,6 +116,6 @@ void ComboWidget::OnListFocusOut() {
   const bool stays = receiver == this || isAncestorOf(receiver) ||
                      receiver->window() == view()->window();
   if (stays) return;
-  SendMessage(peer->handle, WM_KILLFOCUS, 0, 0);
+  SendFromToolkit(peer->handle, WM_KILLFOCUS, 0, 0);
   hidePopup();
 }

@@ -1,6 +1,5 @@
 #include "platform/qt/button_peer.h"
 #include "platform/qt/combo_peer.h"
-#include "platform/qt/control_parts.h"
 #include "platform/qt/edit_peer.h"
 #include "platform/qt/slider_peer.h"
 #include "platform/qt/static_peer.h"
@@ -41,24 +40,15 @@ const ControlClass* FindClass(const std::wstring& name) {
   return nullptr;
 }
 
-// Only controls with a tab stop are reached by Tab; among radio buttons the group decides.
-void ApplyTabStop(const Peer& peer) {
-  QWidget& widget = *peer.widget;
-  if ((peer.style & WS_TABSTOP) != 0 || peer.kind == ControlKind::Radio) return;
-  widget.setFocusPolicy(Qt::FocusPolicy(widget.focusPolicy() & ~Qt::TabFocus));
-}
-
 }  // namespace
 
 std::unique_ptr<Peer> MakeControlPeer(const std::wstring& className, DWORD style,
                                       const std::wstring& text, QWidget* parent) {
   const ControlClass* known = FindClass(className);
   if (known == nullptr) return nullptr;
-  if ((style & WS_GROUP) != 0) EndRadioGroup(parent);
   auto peer = known->make(style, text, parent);
   if (peer == nullptr) return nullptr;
   peer->className = known->name;
   peer->style = style;
-  ApplyTabStop(*peer);
   return peer;
 }

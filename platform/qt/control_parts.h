@@ -2,9 +2,6 @@
 
 // What the widgets of the controls share. Private to the platform layer.
 
-#include <QButtonGroup>
-#include <QPointer>
-
 #include "platform/qt/peer.h"
 
 /// The peer of a control's own widget; null before it is registered and once its window is
@@ -13,8 +10,3 @@ template <class Kind>
 Kind* PeerOf(const QWidget* widget) {
   return dynamic_cast<Kind*>(FindPeer(widget));
 }
-
-/// The group that radio buttons made in `parent` join at present.
-QButtonGroup& RadioGroup(QWidget* parent);
-/// Lets the next radio button made in `parent` start a group of its own.
-void EndRadioGroup(QWidget* parent);

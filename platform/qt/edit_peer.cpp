@@ -23,8 +23,8 @@ std::pair<int, int> Clamped(int start, int end, int length) {
 
 class LineEditPeer final : public EditPeer {
  public:
-  LineEditPeer(DWORD controlStyle, const std::wstring& text, QWidget* parent) {
-    auto* edit = new QLineEdit(ToQt(text), parent);
+  LineEditPeer(DWORD controlStyle, const std::wstring& initialText, QWidget* host) {
+    auto* edit = new QLineEdit(ToQt(initialText), host);
     widget = edit;
     kind = ControlKind::Edit;
     edit->setMaxLength(kNoLimit);
@@ -37,7 +37,7 @@ class LineEditPeer final : public EditPeer {
   }
 
   std::wstring Text() const override { return FromQt(Edit().text()); }
-  void SetText(const std::wstring& text) override { Edit().setText(ToQt(text)); }
+  void SetText(const std::wstring& newText) override { Edit().setText(ToQt(newText)); }
 
   void SetSelection(int start, int end) override {
     if (start < 0) return Edit().deselect();
@@ -83,15 +83,15 @@ class TextEditWidget final : public QPlainTextEdit {
 
 class TextEditPeer final : public EditPeer {
  public:
-  TextEditPeer(DWORD controlStyle, const std::wstring& text, QWidget* parent) {
-    auto* edit = new TextEditWidget(parent);
+  TextEditPeer(DWORD controlStyle, const std::wstring& initialText, QWidget* host) {
+    auto* edit = new TextEditWidget(host);
     widget = edit;
     kind = ControlKind::Edit;
     edit->setTabChangesFocus(true);
     const bool scrolls = (controlStyle & WS_HSCROLL) != 0;
     edit->setLineWrapMode(scrolls ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
     SetReadOnly((controlStyle & ES_READONLY) != 0);
-    TextEditPeer::SetText(text);
+    TextEditPeer::SetText(initialText);
     QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [edit] { NotifyChange(edit); });
   }
 
@@ -100,9 +100,9 @@ class TextEditPeer final : public EditPeer {
     return FromQt(Edit().toPlainText().replace(QLatin1Char('\n'), QStringLiteral("\r\n")));
   }
   /// An edit of several lines tells nobody that it was filled.
-  void SetText(const std::wstring& text) override {
+  void SetText(const std::wstring& newText) override {
     const QSignalBlocker quiet(&Edit());
-    Edit().setPlainText(ToQt(text));
+    Edit().setPlainText(ToQt(newText));
   }
 
   void SetSelection(int start, int end) override {
@@ -137,7 +137,7 @@ class TextEditPeer final : public EditPeer {
 
 }  // namespace
 
-std::unique_ptr<Peer> EditPeer::Make(DWORD style, const std::wstring& text, QWidget* parent) {
-  if ((style & ES_MULTILINE) != 0) return std::make_unique<TextEditPeer>(style, text, parent);
-  return std::make_unique<LineEditPeer>(style, text, parent);
+std::unique_ptr<Peer> EditPeer::Make(DWORD style, const std::wstring& text, QWidget* host) {
+  if ((style & ES_MULTILINE) != 0) return std::make_unique<TextEditPeer>(style, text, host);
+  return std::make_unique<LineEditPeer>(style, text, host);
 }

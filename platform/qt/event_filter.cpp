@@ -48,6 +48,13 @@ bool OnStateChange(Peer& peer) {
   return SendBesideEvent(peer, WM_SIZE, SIZE_MINIMIZED, 0);
 }
 
+/// The modal window above has gone. It hands its activity on to the window below, also where no
+/// window manager does that.
+bool OnUnblocked(const Peer& peer) {
+  if (QApplication::activeWindow() != nullptr) peer.widget->activateWindow();
+  return false;
+}
+
 bool OnClose(Peer& peer, QEvent& event) {
   // The dialog ends by its own decision; the toolkit must not hide it.
   event.ignore();
@@ -125,6 +132,7 @@ class EventFilter : public QObject {
     switch (type) {
       case QEvent::Resize:
       case QEvent::WindowStateChange:
+      case QEvent::WindowUnblocked:
       case QEvent::Close:
       case QEvent::FocusIn:
       case QEvent::FocusOut:
@@ -142,6 +150,7 @@ class EventFilter : public QObject {
     switch (event.type()) {
       case QEvent::Resize: return OnResize(peer);
       case QEvent::WindowStateChange: return OnStateChange(peer);
+      case QEvent::WindowUnblocked: return OnUnblocked(peer);
       case QEvent::Close: return OnClose(peer, event);
       case QEvent::FocusIn: return SendBesideEvent(peer, WM_SETFOCUS);
       case QEvent::FocusOut: return OnFocusOut(peer, static_cast<QFocusEvent&>(event));

@@ -138,7 +138,14 @@ void ArrangeText(QMessageBox& box, const QString& heading) {
   grid->addWidget(body, row, column, rows, columns);
 }
 
-int Show(QWidget* parent, const BCGP_MSGBOXPARAMS& parameters) {
+/// Where no window manager does it, the window below would stay without the focus.
+void GiveFocusBack(QWidget* window) {
+  if (window != nullptr && window->isVisible() && QApplication::activeWindow() != window) {
+    window->activateWindow();
+  }
+}
+
+int Show(const QPointer<QWidget>& parent, const BCGP_MSGBOXPARAMS& parameters) {
   const KindRow& kind = KindOf(parameters.dwStyle);
   // Its parent may be destroyed while the box is open, and the box with it.
   const QPointer<QMessageBox> box = new QMessageBox(parent);
@@ -155,6 +162,7 @@ int Show(QWidget* parent, const BCGP_MSGBOXPARAMS& parameters) {
 
   const int result = ResultOf(box->exec());
   delete box.data();
+  GiveFocusBack(parent);
   return result != 0 ? result : ResultOf(kind.escape);
 }
 

@@ -9,9 +9,9 @@ constexpr WORD kThumbTrack = 5;
 
 }  // namespace
 
-SliderPeer::SliderPeer(DWORD, const std::wstring&, QWidget* parent) {
+SliderPeer::SliderPeer(DWORD, const std::wstring&, QWidget* host) {
   kind = ControlKind::Slider;
-  auto* slider = new QSlider(Qt::Horizontal, parent);
+  auto* slider = new QSlider(Qt::Horizontal, host);
   widget = slider;
   slider->setFocusPolicy(Qt::StrongFocus);
   slider->setSingleStep(1);
@@ -38,6 +38,6 @@ void SliderPeer::SetPosition(int position) {
 void SliderPeer::OnMoved() {
   if (moving_) return;
   const auto place = static_cast<WORD>(Position());
-  SendMessage(parent, WM_HSCROLL, WPARAM{place} << 16 | kThumbTrack,
-              reinterpret_cast<LPARAM>(handle));
+  SendFromToolkit(parent, WM_HSCROLL, WPARAM{place} << 16 | kThumbTrack,
+                  reinterpret_cast<LPARAM>(handle));
 }

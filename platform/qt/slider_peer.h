@@ -8,7 +8,7 @@
 
 class SliderPeer final : public Peer {
  public:
-  SliderPeer(DWORD style, const std::wstring& text, QWidget* parent);
+  SliderPeer(DWORD style, const std::wstring& initialText, QWidget* host);
 
   void SetRange(int minimum, int maximum);
   int Position() const { return Slider().value(); }

@@ -100,17 +100,16 @@ class LabelWidget final : public QLabel {
 
 }  // namespace
 
-StaticPeer::StaticPeer(DWORD controlStyle, const std::wstring& text, QWidget* parent) {
-  widget = new LabelWidget(controlStyle, parent);
+StaticPeer::StaticPeer(DWORD controlStyle, const std::wstring& initialText, QWidget* host) {
+  widget = new LabelWidget(controlStyle, host);
   kind = KindOf(controlStyle);
-  if (kind == ControlKind::Frame) widget->lower();
-  StaticPeer::SetText(text);
+  StaticPeer::SetText(initialText);
 }
 
-void StaticPeer::SetText(const std::wstring& text) {
-  text_ = text;
+void StaticPeer::SetText(const std::wstring& newText) {
+  text = newText;
   if (kind == ControlKind::Picture) return;
-  Label().setText(ToQt(text));
+  Label().setText(ToQt(newText));
 }
 
 void StaticPeer::SetPicture(const QPixmap& picture) {

@@ -10,15 +10,12 @@
 /// The widget is always a QLabel, so that a label can be given its buddy.
 class StaticPeer final : public Peer {
  public:
-  StaticPeer(DWORD style, const std::wstring& text, QWidget* parent);
+  StaticPeer(DWORD style, const std::wstring& initialText, QWidget* host);
 
-  std::wstring Text() const override { return text_; }
-  void SetText(const std::wstring& text) override;
+  void SetText(const std::wstring& newText) override;
   /// Shows the picture in its own size instead of the text.
   void SetPicture(const QPixmap& picture);
 
  private:
   QLabel& Label() const { return static_cast<QLabel&>(*widget); }
-
-  std::wstring text_;
 };

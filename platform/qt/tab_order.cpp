@@ -19,6 +19,12 @@ bool TakesKeys(const Peer& peer) {
   }
 }
 
+void SetTabStop(QWidget& widget, bool stops) {
+  const int policy = widget.focusPolicy();
+  const int wanted = stops ? policy | Qt::TabFocus : policy & ~Qt::TabFocus;
+  if (wanted != policy) widget.setFocusPolicy(static_cast<Qt::FocusPolicy>(wanted));
+}
+
 std::vector<const Peer*> Children(const Peer& dialog) {
   std::vector<const Peer*> children;
   for (const ChildWindow& child : dialog.children) {
@@ -54,6 +60,23 @@ const Peer* TopDialog(HWND window) {
   return peer;
 }
 
+/// Tab stops at the checked button of a group alone; while none is checked, where the template says.
+void StopAtChecked(QButtonGroup& group) {
+  for (QAbstractButton* button : group.buttons()) {
+    const Peer* peer = FindPeer(button);
+    if (peer == nullptr) continue;
+    const bool byTemplate = (peer->style & WS_TABSTOP) != 0;
+    const bool stops = group.checkedButton() != nullptr ? button->isChecked() : byTemplate;
+    SetTabStop(*button, stops);
+  }
+}
+
+QButtonGroup* MakeGroup(QWidget* parent) {
+  auto* group = new QButtonGroup(parent);
+  QObject::connect(group, &QButtonGroup::buttonToggled, group, [group] { StopAtChecked(*group); });
+  return group;
+}
+
 }  // namespace
 
 void ArrangeTabOrder(HWND window) {
@@ -66,10 +89,7 @@ void ArrangeTabOrder(HWND window) {
 
 void ApplyTabStop(const Peer& control) {
   if (!TakesKeys(control) || control.widget == nullptr) return;
-  const int policy = control.widget->focusPolicy();
-  const bool stops = (control.style & WS_TABSTOP) != 0;
-  const int wanted = stops ? policy | Qt::TabFocus : policy & ~Qt::TabFocus;
-  if (wanted != policy) control.widget->setFocusPolicy(static_cast<Qt::FocusPolicy>(wanted));
+  SetTabStop(*control.widget, (control.style & WS_TABSTOP) != 0);
 }
 
 void GroupRadioButtons(const Peer& dialog) {
@@ -77,7 +97,7 @@ void GroupRadioButtons(const Peer& dialog) {
   for (const Peer* child : Children(dialog)) {
     if ((child->style & WS_GROUP) != 0) group = nullptr;
     if (child->kind != ControlKind::Radio) continue;
-    if (group == nullptr) group = new QButtonGroup(dialog.widget);
+    if (group == nullptr) group = MakeGroup(dialog.widget);
     if (auto* button = qobject_cast<QAbstractButton*>(child->widget)) group->addButton(button);
   }
 }

@@ -17,9 +17,9 @@ NMTREEVIEW SelectionNote(HTREEITEM from, DWORD_PTR fromData, HTREEITEM to, DWORD
 
 }  // namespace
 
-TreePeer::TreePeer(DWORD, const std::wstring&, QWidget* parent) {
+TreePeer::TreePeer(DWORD, const std::wstring&, QWidget* host) {
   kind = ControlKind::Tree;
-  widget = new TreeWidget(parent);
+  widget = new TreeWidget(host);
 }
 
 TreeWidget& TreePeer::Tree() const { return static_cast<TreeWidget&>(*widget); }
@@ -29,14 +29,14 @@ LRESULT TreePeer::DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) {
   return Expand(reinterpret_cast<HTREEITEM>(lParam), static_cast<UINT>(wParam));
 }
 
-HTREEITEM TreePeer::Insert(const QString& text, int image, int selectedImage, HTREEITEM parentRow,
+HTREEITEM TreePeer::Insert(const QString& rowText, int image, int selectedImage, HTREEITEM parentRow,
                            HTREEITEM after) {
   QTreeWidgetItem* above = parentRow == TVI_ROOT ? Tree().invisibleRootItem() : Find(parentRow);
   if (above == nullptr) return nullptr;
   QTreeWidgetItem* sibling = Find(after);
   const int place = sibling != nullptr ? above->indexOfChild(sibling) : -1;
 
-  auto* item = new QTreeWidgetItem({text});
+  auto* item = new QTreeWidgetItem({rowText});
   rows_.insert(++lastHandle_, item);
   item->setData(0, TreeHandleRole, QVariant::fromValue(lastHandle_));
   item->setData(0, TreeImageRole, image);
@@ -51,15 +51,15 @@ void TreePeer::Clear() {
   Tree().clear();
 }
 
-QTreeWidgetItem* TreePeer::Find(HTREEITEM handle) const { return rows_.value(Number(handle)); }
+QTreeWidgetItem* TreePeer::Find(HTREEITEM row) const { return rows_.value(Number(row)); }
 
 HTREEITEM TreePeer::HandleOf(const QTreeWidgetItem* item) {
   if (item == nullptr) return nullptr;
   return reinterpret_cast<HTREEITEM>(item->data(0, TreeHandleRole).value<quintptr>());
 }
 
-DWORD_PTR TreePeer::Data(HTREEITEM handle) const {
-  const QTreeWidgetItem* item = Find(handle);
+DWORD_PTR TreePeer::Data(HTREEITEM row) const {
+  const QTreeWidgetItem* item = Find(row);
   return item != nullptr ? item->data(0, TreeDataRole).value<quintptr>() : 0;
 }
 

@@ -23,30 +23,30 @@ enum TreeRole {
 /// that outlives its row is recognised.
 class TreePeer final : public Peer {
  public:
-  TreePeer(DWORD style, const std::wstring& text, QWidget* parent);
+  TreePeer(DWORD style, const std::wstring& initialText, QWidget* host);
 
   LRESULT DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   /// Inserts behind the sibling `after`; any other value appends. Null for a stale parent.
-  HTREEITEM Insert(const QString& text, int image, int selectedImage, HTREEITEM parentRow,
+  HTREEITEM Insert(const QString& rowText, int image, int selectedImage, HTREEITEM parentRow,
                    HTREEITEM after);
   /// Sends no notification.
   void Clear();
   /// Null for a stale handle.
-  QTreeWidgetItem* Find(HTREEITEM handle) const;
+  QTreeWidgetItem* Find(HTREEITEM row) const;
   /// Null for no row.
   static HTREEITEM HandleOf(const QTreeWidgetItem* item);
   /// The row's item data; 0 for no row.
-  DWORD_PTR Data(HTREEITEM handle) const;
+  DWORD_PTR Data(HTREEITEM row) const;
 
   HTREEITEM Selected() const;
   /// Asks the parent, moves the selection, and tells the parent. False when the parent refuses or
   /// the handle is stale. Null selects nothing.
-  bool Select(HTREEITEM handle);
+  bool Select(HTREEITEM row);
   /// By the program: the parent is asked once for each row. False when there is nothing to do.
-  bool Expand(HTREEITEM handle, UINT code);
+  bool Expand(HTREEITEM row, UINT code);
   /// By the user: the parent is asked every time.
-  void Toggle(HTREEITEM handle, bool expand);
+  void Toggle(HTREEITEM row, bool expand);
 
   void SetImages(const CImageList* images);
   const CImageList* Images() const { return images_; }
@@ -58,9 +58,9 @@ class TreePeer final : public Peer {
  private:
   TreeWidget& Tree() const;
   bool AskSelection(HTREEITEM from, HTREEITEM to);
-  bool AskExpansion(HTREEITEM handle, UINT action);
-  bool ExpandOnce(HTREEITEM handle);
-  bool Collapse(HTREEITEM handle, bool removeChildren);
+  bool AskExpansion(HTREEITEM row, UINT action);
+  bool ExpandOnce(HTREEITEM row);
+  bool Collapse(HTREEITEM row, bool removeChildren);
   bool IsSelectionBelow(const QTreeWidgetItem& item) const;
   void RemoveChildren(QTreeWidgetItem& item);
   void Forget(const QTreeWidgetItem& item);

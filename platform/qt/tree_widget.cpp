@@ -57,6 +57,8 @@ TreeSelectionModel::TreeSelectionModel(QTreeWidget& tree)
 
 void TreeSelectionModel::setCurrentIndex(const QModelIndex& index, SelectionFlags command) {
   if (open_) return QItemSelectionModel::setCurrentIndex(index, command);
+  // The focus alone chooses no row, though the toolkit would make the first one current.
+  if (command == NoUpdate) return;
   auto* peer = PeerOf<TreePeer>(&tree_);
   if (peer != nullptr && index.isValid()) {
     peer->Select(TreePeer::HandleOf(tree_.itemFromIndex(index)));

@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
 
 #include "platform/qt/event_filter.h"
 
@@ -14,19 +15,16 @@ bool IsTopLevelDialog(const Peer& peer) {
 
 bool HasSizingBorder(const Peer& peer) { return (peer.style & WS_THICKFRAME) != 0; }
 
-QSize FrameExtent(const QWidget& widget) { return widget.frameGeometry().size() - widget.size(); }
-
 void PlaceTopLevel(const Peer& peer, QPoint at, QSize size, UINT flags) {
   QWidget& widget = *peer.widget;
   if ((flags & SWP_NOSIZE) == 0) {
-    const QSize client = (size - FrameExtent(widget)).expandedTo(QSize(0, 0));
     if (HasSizingBorder(peer)) {
-      widget.resize(client);
+      widget.resize(size);
     } else {
-      widget.setFixedSize(client);
+      widget.setFixedSize(size);
     }
   }
-  if ((flags & SWP_NOMOVE) == 0) widget.move(at);
+  if ((flags & SWP_NOMOVE) == 0) widget.setGeometry(QRect(at, widget.size()));
 }
 
 void PlaceChild(QWidget& widget, QPoint at, QSize size, UINT flags) {
@@ -69,7 +67,6 @@ QSize ClientSize(const Peer& peer) {
 
 QRect WindowRect(const Peer& peer) {
   const QWidget& widget = *peer.widget;
-  if (widget.isWindow()) return widget.frameGeometry();
   return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size());
 }
 
@@ -84,11 +81,9 @@ void UpdateTrackSize(const Peer& peer) {
   SendFromToolkit(window, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
   if (FindPeer(window) == nullptr) return;
   QWidget& widget = *peer.widget;
-  const QSize frame = FrameExtent(widget);
   const QSize largest = ToQtSize(limits.ptMaxTrackSize);
-  widget.setMinimumSize((ToQtSize(limits.ptMinTrackSize) - frame).expandedTo(QSize(0, 0)));
-  widget.setMaximumSize(largest.isEmpty() ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)
-                                          : largest - frame);
+  widget.setMinimumSize(ToQtSize(limits.ptMinTrackSize));
+  widget.setMaximumSize(largest.isEmpty() ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : largest);
 }
 
 void OpenOnScreen(const Peer& peer) {
@@ -97,11 +92,12 @@ void OpenOnScreen(const Peer& peer) {
   const QWidget* near = owner != nullptr ? owner->widget.data() : nullptr;
   const QScreen* screen = near != nullptr ? near->screen() : QGuiApplication::primaryScreen();
   const QRect available = screen->availableGeometry();
-  const QSize size = widget.frameGeometry().size();
-  QRect place(widget.pos(), size);
+  widget.winId();
+  const QMargins frame = widget.windowHandle()->frameMargins();
+  QRect place = widget.geometry().marginsAdded(frame);
   if (!widget.testAttribute(Qt::WA_Moved))
     place.moveCenter(near != nullptr ? near->frameGeometry().center() : available.center());
-  widget.move(Clamp(place.x(), size.width(), available.x(), available.width()),
-              Clamp(place.y(), size.height(), available.y(), available.height()));
+  widget.move(Clamp(place.x(), place.width(), available.x(), available.width()),
+              Clamp(place.y(), place.height(), available.y(), available.height()));
   widget.show();
 }

@@ -4,13 +4,13 @@
 
 #include "platform/qt/peer.h"
 
-/// Moves and resizes as SetWindowPos does: a top-level dialog in screen coordinates, its frame
-/// included; any other window in the client coordinates of its parent.
+/// Moves and resizes as SetWindowPos does: a top-level dialog in screen coordinates, any other window
+/// in the client coordinates of its parent.
 void PlaceWindow(Peer& peer, int x, int y, int cx, int cy, UINT flags);
 
 /// The part of a window inside its frame and scroll bars.
 QSize ClientSize(const Peer& peer);
-/// In screen coordinates, the frame of a top-level dialog included where it is known.
+/// In screen coordinates.
 QRect WindowRect(const Peer& peer);
 
 /// Lets the user resize a top-level dialog with a sizing border, down to the size that the dialog

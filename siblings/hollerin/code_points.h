@@ -6,8 +6,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 
 namespace HOLLERIN {
+
+/// The number of a character; characters are signed here, their numbers are not.
+constexpr std::uint32_t CodeOf(wchar_t character) {
+  return static_cast<std::make_unsigned_t<wchar_t>>(character);
+}
 
 /// How many bytes the form of `code` has: 1 to 7.
 constexpr std::size_t CodeSize(std::uint32_t code) {

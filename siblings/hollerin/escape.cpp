@@ -12,12 +12,12 @@ constexpr std::wstring_view kHexDigits = L"0123456789ABCDEF";
 constexpr std::size_t kMaxDigits = 8;
 
 bool IsPlain(wchar_t character) {
-  const auto code = static_cast<std::uint32_t>(character);
+  const auto code = CodeOf(character);
   return code >= 0x20 && (code < 0x7F || code > 0x9F) && IsXmlCharacter(code);
 }
 
 void AppendEscaped(std::wstring& out, wchar_t character) {
-  const auto code = static_cast<std::uint32_t>(character);
+  const auto code = CodeOf(character);
   int shift = 28;
   while (shift > 0 && code >> shift == 0) shift -= 4;
   out += L"\\u{";

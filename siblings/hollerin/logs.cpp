@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "hollerin/application.h"
+#include "hollerin/code_points.h"
 #include "hollerin/system_file.h"
 #include "hollerin/temporary_file.h"
 #include "platform/text.h"
@@ -31,7 +32,7 @@ std::string TimeStamp() {
 }
 
 bool BreaksLine(wchar_t character) {
-  const auto code = static_cast<std::uint32_t>(character);
+  const auto code = CodeOf(character);
   return code < 0x20 || (code >= 0x7F && code < 0xA0) || code == 0x2028 || code == 0x2029;
 }
 

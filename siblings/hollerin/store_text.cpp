@@ -26,8 +26,7 @@ std::uint64_t Checksum(std::basic_string_view<Char> text) {
 }
 
 bool IsAscii(std::wstring_view text) {
-  return std::all_of(text.begin(), text.end(),
-                     [](wchar_t c) { return static_cast<std::uint32_t>(c) < 0x80; });
+  return std::all_of(text.begin(), text.end(), [](wchar_t c) { return CodeOf(c) < 0x80; });
 }
 
 template <class Char>
@@ -54,9 +53,9 @@ class TextWriter {
       out_.append(text.begin(), text.end());
     } else {
       std::size_t size = 0;
-      for (const wchar_t c : text) size += CodeSize(static_cast<std::uint32_t>(c));
+      for (const wchar_t c : text) size += CodeSize(CodeOf(c));
       Number(size, ':');
-      for (const wchar_t c : text) AppendCode(out_, static_cast<std::uint32_t>(c));
+      for (const wchar_t c : text) AppendCode(out_, CodeOf(c));
     }
   }
 
@@ -178,8 +177,8 @@ std::optional<Values> ParseEntries(std::basic_string_view<Char> text) {
   Values values;
   Section* section = nullptr;
   TextReader<Char> reader(text);
-  std::wstring name;
   while (!reader.AtEnd()) {
+    std::wstring name;
     const Char tag = reader.Tag();
     if (!reader.Text(name)) return std::nullopt;
     if (tag == 'S') {

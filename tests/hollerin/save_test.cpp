@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <csignal>
 
 #include "hollerin/application.h"
@@ -186,6 +187,22 @@ TEST_F(SaveTest, FlushesTheFileBeforeItIsRenamedAndTheFolderAfterwards) {
   const PlannedFaults faults({});
   EXPECT_EQ(store_->Save(), S_OK);
   EXPECT_EQ(faults.Trace(), "oolwcsros");
+}
+
+TEST_F(SaveTest, StartsAgainWhenItsFileIsTakenForAnAbandonedOne) {
+  FaultPlan plan;
+  plan.beforeLock = [this] { Open(file_); };
+  HRESULT status = E_FAIL;
+  std::string trace;
+  {
+    const PlannedFaults faults(plan);
+    status = store_->Save();
+    trace = faults.Trace();
+  }
+  EXPECT_EQ(status, S_OK) << trace;
+  EXPECT_EQ(std::count(trace.begin(), trace.end(), 'r'), 1);
+  EXPECT_EQ(ValuesIn(file_), kNew);
+  EXPECT_EQ(folder_.Names(), Names{"config.xml"});
 }
 
 TEST_F(SaveTest, ShortAndInterruptedWritesAreContinued) {

@@ -35,7 +35,8 @@ TEST(StoreXml, LooksAsDocumented) {
                           {{L"Flag", true},
                            {L"Max", std::int32_t{7}},
                            {L"Path", std::wstring(L"C:\\a & b")},
-                           {L"Prefix", std::wstring(L" \\x\n")}}}};
+                           {L"Prefix", std::wstring(L" \\x\n")},
+                           {L"Tail ", std::wstring(L"a b ")}}}};
   EXPECT_EQ(FormatStoreXml(values),
             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
             "<configuration version=\"1\">\n"
@@ -45,6 +46,8 @@ TEST(StoreXml, LooksAsDocumented) {
             "    <value name=\"Path\" type=\"string\">C:\\a &amp; b</value>\n"
             "    <value name=\"Prefix\" type=\"string\" escaped=\"true\">"
             "\\u{20}\\\\x\\u{A}</value>\n"
+            "    <value escaped-name=\"Tail\\u{20}\" type=\"string\" escaped=\"true\">a "
+            "b\\u{20}</value>\n"
             "  </section>\n"
             "</configuration>\n");
 }

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
+#include <utility>
 
 namespace {
 
@@ -86,6 +87,7 @@ int fchmod(int descriptor, mode_t mode) noexcept {
 // Under another name here, which would hide the structure called flock.
 int LockFile(int descriptor, int operation) noexcept __asm__("flock");
 int LockFile(int descriptor, int operation) noexcept {
+  if (state.active && state.plan.beforeLock) std::exchange(state.plan.beforeLock, nullptr)();
   return FaultIsDue('l') ? -1 : static_cast<int>(syscall(SYS_flock, descriptor, operation));
 }
 

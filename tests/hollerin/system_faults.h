@@ -4,6 +4,7 @@
 // the like, which do what the system's do until a fault is due; the libraries that it loads call
 // them instead of the system's.
 
+#include <functional>
 #include <string>
 
 struct FaultPlan {
@@ -12,6 +13,7 @@ struct FaultPlan {
   int killAtCall = 0;      ///< The process kills itself at this call, half done if it is a write.
   int mostPerWrite = 0;    ///< Writes take no more bytes than this; 0 for any number.
   bool interrupt = false;  ///< Every other write is interrupted by a signal.
+  std::function<void()> beforeLock;  ///< What another process does before the first lock.
 };
 
 /// The plan holds, and calls are counted, for as long as the object lives.

@@ -7,6 +7,7 @@
 #include "environment.h"
 #include "fake_language.h"
 #include "foundation/translate_dialog.h"
+#include "platform/application.h"
 #include "platform/controls.h"
 #include "resources/resource.h"
 
@@ -107,11 +108,11 @@ TEST_F(GeometryTest, GrowsAndShrinksBack) {
 
 TEST_F(GeometryTest, FollowsTheRealWindow) {
   Open(AddAndBind);
+  dialog.ShowWindow(SW_SHOW);
   CRect window;
   dialog.GetWindowRect(window);
   window.right += 30;
   window.bottom += 20;
-  dialog.ShowWindow(SW_SHOW);
   dialog.MoveWindow(window);
   EXPECT_EQ(dialog.RectOf(kButton), Moved(kButtonRect, 30, 20));
 }
@@ -208,6 +209,16 @@ TEST_F(GeometryTest, CannotBecomeSmallerThanAtFirst) {
   EXPECT_EQ(info.ptMinTrackSize.x, window.Width());
   EXPECT_EQ(info.ptMinTrackSize.y, window.Height());
   EXPECT_GT(info.ptMinTrackSize.x, 0);
+}
+
+TEST_F(GeometryTest, TheShownWindowKeepsItsFirstClientArea) {
+  Open([](TestDialog& it) { it.EnableLayout(); });
+  dialog.ShowWindow(SW_SHOW);
+  ToolkitApplication::ProcessEvents();
+  dialog.MoveWindow(CRect(0, 0, 40, 30));
+  CRect client;
+  dialog.GetClientRect(client);
+  EXPECT_EQ(client, client_);
 }
 
 TEST_F(GeometryTest, TextAndSelectionSurviveTheMove) {

@@ -134,8 +134,7 @@ TEST_F(MainDialogTest, RestoringNeitherAsksNorWritesThePageShown) {
   store->values->WriteInt(L"Options", L"MaxNearDistance", 0);
   OpenDialog(19);
   Agreeing agreeing;
-  QTest::mouseClick(WidgetOf(*dialog, IDD_MAIN_CONFIGURATION, IDC_RESTORE_DEFAULTS),
-                    Qt::LeftButton);
+  QTest::mouseClick(WidgetOf(IDD_MAIN_CONFIGURATION, IDC_RESTORE_DEFAULTS), Qt::LeftButton);
   EXPECT_EQ(agreeing.texts.size(), 1U);
   EXPECT_FALSE(PagesWrote());
   EXPECT_TRUE(fourth->GetValues().empty());
@@ -150,8 +149,7 @@ TEST_F(MainDialogTest, AFailedRestoreKeepsWhatWasDoneAndOkDoesNotUndoIt) {
   fourth->WriteInt(L"Some", L"Value", 1);
   const ScopedFailure failure(L"CreateDefaultMasterConfiguration");
   Agreeing agreeing;
-  QTest::mouseClick(WidgetOf(*dialog, IDD_MAIN_CONFIGURATION, IDC_RESTORE_DEFAULTS),
-                    Qt::LeftButton);
+  QTest::mouseClick(WidgetOf(IDD_MAIN_CONFIGURATION, IDC_RESTORE_DEFAULTS), Qt::LeftButton);
   ASSERT_EQ(agreeing.texts.size(), 2U);
   EXPECT_NE(agreeing.texts[1].find(L"Loading default master configuration"), std::wstring::npos);
   EXPECT_EQ(Tree().GetRootItem(), nullptr);
@@ -233,8 +231,7 @@ TEST_F(SingleDialogTest, ARefusedPageFailsTheWholeExchangeAndKeepsTheFocus) {
   single.ShowWindow(SW_SHOW);
   EXPECT_EQ(AnswerMessages([&] { EXPECT_FALSE(single.UpdateData(TRUE)); }).size(), 1U);
   EXPECT_TRUE(store->writes.empty());
-  ASSERT_NE(CWnd::GetFocus(), nullptr);
-  EXPECT_EQ(CWnd::GetFocus()->GetDlgCtrlID(), IDC_MAX_NEAR_DISTANCE);
+  EXPECT_TRUE(HasFocus(IDD_BOOLEAN_PAGE, IDC_MAX_NEAR_DISTANCE));
   entry->GetDialog(nullptr, nullptr)->SetDlgItemText(IDC_MAX_NEAR_DISTANCE, L"3");
   EXPECT_TRUE(single.UpdateData(TRUE));
   EXPECT_EQ(store->values->ReadInt(L"Options", L"MaxNearDistance", 0), 3);

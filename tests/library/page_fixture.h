@@ -24,13 +24,19 @@ class TestProvider : public INTERNAL_IFC::IConfigDataProvider {
 };
 
 /// The widget of a control, found by its name as other programs find it.
-inline QWidget* WidgetOf(const CWnd& dialog, UINT templateId, int id) {
+inline QWidget* WidgetOf(UINT templateId, int id) {
   const QString name = QStringLiteral("%1/%2").arg(templateId).arg(id);
   for (QWidget* widget : QApplication::allWidgets()) {
     if (widget->objectName() == name && widget->isVisible()) return widget;
   }
-  ADD_FAILURE() << "no visible control " << name.toStdString() << " " << dialog.GetDlgCtrlID();
+  ADD_FAILURE() << "no visible control " << name.toStdString();
   return nullptr;
+}
+
+/// Whether the control has the focus of its window, whichever window is active.
+inline bool HasFocus(UINT templateId, int id) {
+  const QWidget* widget = WidgetOf(templateId, id);
+  return widget != nullptr && widget->window()->focusWidget() == widget;
 }
 
 class PageTest : public testing::Test {
@@ -54,7 +60,7 @@ class PageTest : public testing::Test {
   }
 
   static void Click(CConfigDialog& page, int id) {
-    QWidget* widget = WidgetOf(page, page.GetTemplateId(), id);
+    QWidget* widget = WidgetOf(page.GetTemplateId(), id);
     ASSERT_NE(widget, nullptr);
     QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(6, widget->height() / 2));
     ToolkitApplication::ProcessEvents();

@@ -73,8 +73,7 @@ TEST_F(ValuePageTest, TheFirstBadValueInExchangeOrderIsReported) {
   ASSERT_EQ(messages.size(), 1U);
   EXPECT_NE(messages[0].text.find(L"99"), std::wstring::npos) << ToUtf8(messages[0].text);
   EXPECT_TRUE(store->writes.empty());
-  ASSERT_NE(CWnd::GetFocus(), nullptr);
-  EXPECT_EQ(CWnd::GetFocus()->GetDlgCtrlID(), IDC_REDUCE_CHARS);
+  EXPECT_TRUE(HasFocus(IDD_MEMORY_PAGE, IDC_REDUCE_CHARS));
 }
 
 TEST_F(ValuePageTest, AConditionalRangeIsCheckedWhileItsBoxIsSet) {

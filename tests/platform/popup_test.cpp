@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -167,6 +168,20 @@ TEST(MessageBox, SurvivesTheEndOfItsParent) {
   parent->show();
   QTimer::singleShot(0, parent, [parent] { delete parent; });
   EXPECT_EQ(MessageBoxW(nullptr, L"text", L"caption", MB_YESNO), IDNO);
+}
+
+TEST(MessageBox, GivesTheFocusBack) {
+  QDialog dialog;
+  QLineEdit edit(&dialog);
+  dialog.show();
+  dialog.activateWindow();
+  edit.setFocus();
+  QApplication::processEvents();
+  ASSERT_TRUE(edit.hasFocus());
+  OnNextBox(PressEscape);
+  EXPECT_EQ(MessageBoxW(nullptr, L"text", L"caption", MB_YESNO), IDNO);
+  QApplication::processEvents();
+  EXPECT_TRUE(edit.hasFocus());
 }
 
 HGLOBAL MemoryWith(const std::wstring& text) {

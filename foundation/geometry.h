@@ -70,7 +70,7 @@ class CGeometryWnd : public T, public IGeometryWnd {
   /// Acts before the class's message map, and after its set-up.
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
     if (message == WM_GETMINMAXINFO) {
-      state_.OnMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
+      state_.OnMinMaxInfo(*this, *reinterpret_cast<MINMAXINFO*>(lParam));
     } else if (message == WM_SIZE) {
       state_.OnSize(*this, static_cast<UINT>(wParam), CSize(static_cast<DWORD>(lParam)));
     }

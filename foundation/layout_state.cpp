@@ -5,18 +5,23 @@
 namespace Geometry {
 
 void CLayoutState::EndSetup(const CWnd& dialog) {
-  dialog.GetWindowRect(initialWindow_);
   dialog.GetClientRect(initialClient_);
   BindMarkedControls(list_, dialog);
   list_.CaptureRectangles(dialog);
   ready_ = true;
 }
 
-void CLayoutState::OnMinMaxInfo(MINMAXINFO& info) const {
+void CLayoutState::OnMinMaxInfo(const CWnd& dialog, MINMAXINFO& info) const {
   if (!ready_) return;
-  const CSize smallest = initialWindow_.Size();
-  if (smallest.cx != 0) info.ptMinTrackSize.x = smallest.cx;
-  if (smallest.cy != 0) info.ptMinTrackSize.y = smallest.cy;
+  // The desktop adds the frame only when it shows the window, so the first window size is what was
+  // the first client size with the frame of now.
+  CRect window, client;
+  dialog.GetWindowRect(window);
+  dialog.GetClientRect(client);
+  const int width = initialClient_.Width() + window.Width() - client.Width();
+  const int height = initialClient_.Height() + window.Height() - client.Height();
+  if (width > 0) info.ptMinTrackSize.x = width;
+  if (height > 0) info.ptMinTrackSize.y = height;
 }
 
 void CLayoutState::OnSize(CWnd& dialog, UINT type, CSize size) {

@@ -11,7 +11,8 @@ class CLayoutState {
   /// At the end of the dialog's set-up: records the initial rectangles, binds marked controls, and
   /// makes the controls' present rectangles their first ones.
   void EndSetup(const CWnd& dialog);
-  void OnMinMaxInfo(MINMAXINFO& info) const;
+  /// The dialog does not become smaller than it was at the end of its set-up.
+  void OnMinMaxInfo(const CWnd& dialog, MINMAXINFO& info) const;
   void OnSize(CWnd& dialog, UINT type, CSize size);
   void ApplyLayout(CWnd& dialog);
 
@@ -21,7 +22,6 @@ class CLayoutState {
 
  private:
   CRect initialClient_;
-  CRect initialWindow_;  ///< In screen coordinates.
   CResizeCtlList list_;
   CSize maximum_;  ///< A component of 0 is no limit.
   bool enabled_ = true;

@@ -19,8 +19,6 @@ constexpr DWORD OFN_EXPLORER = 0x00080000;  ///< No effect: there is one kind of
 
 /// The names do not fit into the buffer that the caller named.
 constexpr DWORD FNERR_BUFFERTOOSMALL = 0x3003;
-/// The proposed name cannot be the name of a file.
-constexpr DWORD FNERR_INVALIDFILENAME = 0x3002;
 
 /// Why the last picker of this process answered IDCANCEL: 0 when the user cancelled it.
 DWORD CommDlgExtendedError();

@@ -5,6 +5,7 @@
 
 #include "platform/controls.h"
 #include "platform/qt/accessible_names.h"
+#include "platform/qt/event_filter.h"
 #include "platform/qt/message_delivery.h"
 #include "platform/qt/tab_order.h"
 #include "platform/qt/window_placement.h"
@@ -162,9 +163,10 @@ HWND GetActiveWindow() {
   for (QWidget* widget : {QApplication::activeModalWidget(), QApplication::activeWindow()}) {
     // A message box stands for the window below it.
     for (; widget != nullptr; widget = widget->parentWidget())
-      if (const Peer* peer = FindPeerAround(widget->window())) return peer->handle;
+      if (const Peer* peer = FindPeer(widget->window())) return peer->handle;
   }
-  return nullptr;
+  // Between the end of a box and the activation of the window below, nothing is active.
+  return LastActiveDialog();
 }
 
 std::wstring GetToolTipText(HWND control) {

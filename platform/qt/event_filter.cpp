@@ -15,6 +15,8 @@
 
 namespace {
 
+HWND lastActive = nullptr;
+
 bool IsDialog(const Peer& peer) { return peer.kind == ControlKind::Dialog; }
 
 /// Sends a message that the widget's own behaviour follows unless a handler took it. True when the
@@ -46,6 +48,11 @@ bool OnResize(Peer& peer) {
 bool OnStateChange(Peer& peer) {
   if (!IsDialog(peer) || !peer.widget->isMinimized()) return false;
   return SendBesideEvent(peer, WM_SIZE, SIZE_MINIMIZED, 0);
+}
+
+bool OnActivate(const Peer& peer) {
+  if (IsDialog(peer) && peer.parent == nullptr) lastActive = peer.handle;
+  return false;
 }
 
 /// The modal window above has gone. It hands its activity on to the window below, also where no
@@ -132,6 +139,7 @@ class EventFilter : public QObject {
     switch (type) {
       case QEvent::Resize:
       case QEvent::WindowStateChange:
+      case QEvent::WindowActivate:
       case QEvent::WindowUnblocked:
       case QEvent::Close:
       case QEvent::FocusIn:
@@ -150,6 +158,7 @@ class EventFilter : public QObject {
     switch (event.type()) {
       case QEvent::Resize: return OnResize(peer);
       case QEvent::WindowStateChange: return OnStateChange(peer);
+      case QEvent::WindowActivate: return OnActivate(peer);
       case QEvent::WindowUnblocked: return OnUnblocked(peer);
       case QEvent::Close: return OnClose(peer, event);
       case QEvent::FocusIn: return SendBesideEvent(peer, WM_SETFOCUS);
@@ -179,4 +188,9 @@ void SendSizeMessage(const Peer& peer) {
   const QWidget& widget = *peer.widget;
   const UINT type = widget.isMaximized() ? SIZE_MAXIMIZED : SIZE_RESTORED;
   SendFromToolkit(peer.handle, WM_SIZE, type, MAKELPARAM(widget.width(), widget.height()));
+}
+
+HWND LastActiveDialog() {
+  const Peer* peer = FindPeer(lastActive);
+  return peer != nullptr && peer->widget->isVisible() ? lastActive : nullptr;
 }

@@ -72,7 +72,8 @@ QString ExistingFolder(QString path) {
   return path;
 }
 
-/// Opens the picker where the start says: a folder, or a proposed file.
+/// Opens the picker where the start says: a folder, or a proposed file. One that has no place here
+/// leaves the choice to the toolkit, so that the user can put it right.
 void SetStart(QFileDialog& dialog, const std::wstring& start, bool folder) {
   const QString native = ToQt(NativePath(start));
   if (native.isEmpty()) return;
@@ -144,9 +145,7 @@ INT_PTR CFileDialog::DoModal() {
 }
 
 DWORD CFileDialog::CheckStart() const {
-  if (start_.size() >= m_ofn.nMaxFile) return FNERR_BUFFERTOOSMALL;
-  const bool nameless = kind_ == Kind::kFile && !start_.empty() && NativePath(start_).empty();
-  return nameless ? FNERR_INVALIDFILENAME : 0;
+  return start_.size() >= m_ofn.nMaxFile ? FNERR_BUFFERTOOSMALL : 0;
 }
 
 DWORD CFileDialog::CheckPicked() const {

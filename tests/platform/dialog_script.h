@@ -141,6 +141,7 @@ inline QWidget* ControlWidget(const CWnd& dialog, int id) {
 inline INT_PTR RunModal(CDialog& dialog, std::deque<std::function<void()>> actions) {
   QObject context;
   std::function<void()> step = [&] {
+    if (dialog.m_hWnd == nullptr) return;
     if (QApplication::activeModalWidget() != WidgetOf(dialog.m_hWnd))
       return QTimer::singleShot(0, &context, step);
     if (actions.empty()) {

@@ -1,0 +1,66 @@
+#pragma once
+
+// Uses the next file or folder picker as a person does.
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileSystemModel>
+#include <QLineEdit>
+#include <QListView>
+#include <QtTest/QTest>
+#include <functional>
+
+class PickerDriver : public QObject {
+ public:
+  using Use = std::function<void(QFileDialog&)>;
+
+  explicit PickerDriver(Use use) : use_(std::move(use)) { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* object, QEvent* event) override {
+    auto* picker = qobject_cast<QFileDialog*>(object);
+    if (picker != nullptr && event->type() == QEvent::Show) {
+      ++shown;
+      QMetaObject::invokeMethod(picker, [this, picker] { use_(*picker); }, Qt::QueuedConnection);
+    }
+    return false;
+  }
+
+  /// Types into the field of names; "\n" confirms.
+  static void Type(QFileDialog& picker, const QString& text) {
+    auto* field = picker.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    field->clear();
+    for (const QChar character : text) {
+      if (character == '\n') {
+        QTest::keyClick(field, Qt::Key_Return);
+      } else {
+        QTest::keyClick(field, character.toLatin1());
+      }
+    }
+  }
+
+  /// Clicks the folders of those names in the list, all but the first with Ctrl.
+  static void ClickInList(QFileDialog& picker, const QStringList& names) {
+    auto* list = picker.findChild<QListView*>(QStringLiteral("listView"));
+    auto* model = picker.findChild<QFileSystemModel*>();
+    if (model->rowCount(model->index(picker.directory().path())) < names.size()) {
+      QEventLoop loading;
+      connect(model, &QFileSystemModel::directoryLoaded, &loading, &QEventLoop::quit);
+      loading.exec();
+    }
+    Qt::KeyboardModifiers modifiers;
+    for (const QString& name : names) {
+      for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row) {
+        const QModelIndex index = list->model()->index(row, 0, list->rootIndex());
+        if (index.data().toString() != name) continue;
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers,
+                          list->visualRect(index).center());
+      }
+      modifiers = Qt::ControlModifier;
+    }
+  }
+
+  int shown = 0;
+
+ private:
+  Use use_;
+};

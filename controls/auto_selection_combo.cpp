@@ -33,8 +33,8 @@ class EditState {
 }  // namespace
 
 BEGIN_MESSAGE_MAP(CAutoSelectionCombo, CCustomComboBox)
-  ON_WM_KILLFOCUS()
-  ON_WM_SIZE()
+ON_WM_KILLFOCUS()
+ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 BOOL CAutoSelectionCombo::PreTranslateMessage(MSG* message) {

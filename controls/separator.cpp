@@ -12,7 +12,7 @@ COLORREF Between(COLORREF a, COLORREF b) {
 }  // namespace
 
 BEGIN_MESSAGE_MAP(CSeparator, CBCGPStatic)
-  ON_WM_PAINT()
+ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 void CSeparator::PreSubclassWindow() {

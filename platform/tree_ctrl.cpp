@@ -1,8 +1,8 @@
 #include "platform/controls.h"
 #include "platform/qt/tree_peer.h"
 
-HTREEITEM CTreeCtrl::InsertItem(const CString& text, int image, int selectedImage,
-                                HTREEITEM parent, HTREEITEM after) {
+HTREEITEM CTreeCtrl::InsertItem(const CString& text, int image, int selectedImage, HTREEITEM parent,
+                                HTREEITEM after) {
   auto* peer = FindPeerAs<TreePeer>(m_hWnd);
   if (peer == nullptr) return nullptr;
   return peer->Insert(ToQt(text.Str()), image, selectedImage, parent, after);

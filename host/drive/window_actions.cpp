@@ -76,7 +76,9 @@ void PressNamedKey(const WindowStack& windows, const QString& key, QWidget* cont
   if (control != nullptr && !control->isAncestorOf(QApplication::focusWidget())) {
     control->setFocus(Qt::TabFocusReason);
   }
-  PressKey(top, combination);
+  // A dropped list is no window of its own, but has the keyboard.
+  QWidget* popup = QApplication::activePopupWidget();
+  PressKey(popup != nullptr ? popup : top, combination);
 }
 
 void ResizeTop(const WindowStack& windows, QSize size) {

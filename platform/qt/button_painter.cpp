@@ -35,8 +35,8 @@ void SetState(QStyleOptionButton& option, UINT state) {
 
 bool IsIdle(const QStyleOptionButton& option) {
   constexpr QStyle::State kBusy = QStyle::State_Sunken | QStyle::State_On | QStyle::State_HasFocus;
-  const bool hovered = (option.state & QStyle::State_MouseOver) != 0 &&
-                       (option.state & QStyle::State_Enabled) != 0;
+  const bool hovered =
+      (option.state & QStyle::State_MouseOver) != 0 && (option.state & QStyle::State_Enabled) != 0;
   return (option.state & kBusy) == 0 && !hovered;
 }
 

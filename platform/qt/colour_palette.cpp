@@ -19,10 +19,11 @@ namespace {
 constexpr int kColumns = 5;
 
 constexpr COLORREF kStandardColours[] = {
-    RGB(0, 0, 0),     RGB(128, 0, 0),   RGB(0, 128, 0),     RGB(128, 128, 0),   RGB(0, 0, 128),
-    RGB(128, 0, 128), RGB(0, 128, 128), RGB(192, 192, 192), RGB(192, 220, 192), RGB(166, 202, 240),
-    RGB(255, 251, 240), RGB(160, 160, 164), RGB(128, 128, 128), RGB(255, 0, 0), RGB(0, 255, 0),
-    RGB(255, 255, 0), RGB(0, 0, 255),   RGB(255, 0, 255),   RGB(0, 255, 255),   RGB(255, 255, 255),
+    RGB(0, 0, 0),       RGB(128, 0, 0),     RGB(0, 128, 0),     RGB(128, 128, 0),
+    RGB(0, 0, 128),     RGB(128, 0, 128),   RGB(0, 128, 128),   RGB(192, 192, 192),
+    RGB(192, 220, 192), RGB(166, 202, 240), RGB(255, 251, 240), RGB(160, 160, 164),
+    RGB(128, 128, 128), RGB(255, 0, 0),     RGB(0, 255, 0),     RGB(255, 255, 0),
+    RGB(0, 0, 255),     RGB(255, 0, 255),   RGB(0, 255, 255),   RGB(255, 255, 255),
 };
 
 QIcon Swatch(const QColor& colour, int side) {
@@ -107,8 +108,8 @@ void ColourPalette::Place(const QWidget& anchor) {
   if (place.y() + size.height() > screen.bottom()) {
     place.setY(anchor.mapToGlobal(QPoint()).y() - size.height());
   }
-  place.setX(std::clamp(place.x(), screen.left(),
-                        std::max(screen.left(), screen.right() - size.width())));
+  place.setX(
+      std::clamp(place.x(), screen.left(), std::max(screen.left(), screen.right() - size.width())));
   setGeometry(QRect(place, size));
 }
 
@@ -128,8 +129,8 @@ void ColourPalette::ChooseOther() {
   const CBCGPColorButton* owner = ColourButton(FindPeer(button));
   close();
   if (owner == nullptr) return;
-  const QPointer<QColorDialog> dialog = new QColorDialog(ToQt(owner->GetColor()),
-                                                         FindPeer(button)->widget->window());
+  const QPointer<QColorDialog> dialog =
+      new QColorDialog(ToQt(owner->GetColor()), FindPeer(button)->widget->window());
   dialog->setOption(QColorDialog::DontUseNativeDialog);
   dialog->setWindowTitle(ToQt(owner->OtherCaption().Str()));
   const bool chosen = dialog->exec() == QDialog::Accepted;

@@ -113,8 +113,8 @@ void ComboWidget::OnListFocusOut() {
   auto* peer = PeerOf<ComboPeer>(this);
   const QWidget* receiver = QApplication::focusWidget();
   if (peer == nullptr || !peer->Dropped() || receiver == nullptr) return;
-  const bool stays = receiver == this || isAncestorOf(receiver) ||
-                     receiver->window() == view()->window();
+  const bool stays =
+      receiver == this || isAncestorOf(receiver) || receiver->window() == view()->window();
   if (stays) return;
   SendFromToolkit(peer->handle, WM_KILLFOCUS, 0, 0);
   hidePopup();

@@ -25,12 +25,9 @@ struct ControlClass {
 };
 
 constexpr ControlClass kClasses[] = {
-    {L"Static", &Make<StaticPeer>},
-    {L"Button", &Make<ButtonPeer>},
-    {L"Edit", &EditPeer::Make},
-    {L"ComboBox", &MakeCombo},
-    {L"SysTreeView32", &Make<TreePeer>},
-    {L"msctls_trackbar32", &Make<SliderPeer>},
+    {L"Static", &Make<StaticPeer>},      {L"Button", &Make<ButtonPeer>},
+    {L"Edit", &EditPeer::Make},          {L"ComboBox", &MakeCombo},
+    {L"SysTreeView32", &Make<TreePeer>}, {L"msctls_trackbar32", &Make<SliderPeer>},
 };
 
 const ControlClass* FindClass(const std::wstring& name) {

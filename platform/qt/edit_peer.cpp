@@ -124,8 +124,8 @@ class TextEditPeer final : public EditPeer {
   void SetReadOnly(bool readOnly) override {
     Edit().setReadOnly(readOnly);
     // A text that cannot be changed can still be walked through and copied by keys.
-    if (readOnly) Edit().setTextInteractionFlags(Qt::TextSelectableByMouse |
-                                                 Qt::TextSelectableByKeyboard);
+    if (readOnly)
+      Edit().setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   }
   void SetLimit(int characters) override {
     static_cast<TextEditWidget&>(*widget).limit = characters > 0 ? characters : kNoLimit;

@@ -138,10 +138,12 @@ void ArrangeText(QMessageBox& box, const QString& heading) {
   grid->addWidget(body, row, column, rows, columns);
 }
 
-/// Where no window manager does it, the window below would stay without the focus.
+/// Where no window manager does it, the window below would stay without the focus. The caller finds
+/// it there already, as it would expect.
 void GiveFocusBack(QWidget* window) {
   if (window != nullptr && window->isVisible() && QApplication::activeWindow() != window) {
     window->activateWindow();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   }
 }
 

@@ -29,8 +29,8 @@ LRESULT TreePeer::DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) {
   return Expand(reinterpret_cast<HTREEITEM>(lParam), static_cast<UINT>(wParam));
 }
 
-HTREEITEM TreePeer::Insert(const QString& rowText, int image, int selectedImage, HTREEITEM parentRow,
-                           HTREEITEM after) {
+HTREEITEM TreePeer::Insert(const QString& rowText, int image, int selectedImage,
+                           HTREEITEM parentRow, HTREEITEM after) {
   QTreeWidgetItem* above = parentRow == TVI_ROOT ? Tree().invisibleRootItem() : Find(parentRow);
   if (above == nullptr) return nullptr;
   QTreeWidgetItem* sibling = Find(after);

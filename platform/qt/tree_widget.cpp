@@ -57,8 +57,7 @@ TreeSelectionModel::TreeSelectionModel(QTreeWidget& tree)
 
 void TreeSelectionModel::setCurrentIndex(const QModelIndex& index, SelectionFlags command) {
   if (open_) return QItemSelectionModel::setCurrentIndex(index, command);
-  // The focus alone chooses no row, though the toolkit would make the first one current.
-  if (command == NoUpdate) return;
+  if (closed_) return;
   auto* peer = PeerOf<TreePeer>(&tree_);
   if (peer != nullptr && index.isValid()) {
     peer->Select(TreePeer::HandleOf(tree_.itemFromIndex(index)));
@@ -101,6 +100,12 @@ TreeWidget::TreeWidget(QWidget* parent)
 
 void TreeWidget::MoveSelection(QTreeWidgetItem* item) {
   selection_->Move(item != nullptr ? indexFromItem(item) : QModelIndex());
+}
+
+void TreeWidget::focusInEvent(QFocusEvent* event) {
+  // The focus alone chooses no row, though the toolkit would make the first one current.
+  const QScopedValueRollback<bool> closed(selection_->closed_, true);
+  QTreeWidget::focusInEvent(event);
 }
 
 void TreeWidget::mousePressEvent(QMouseEvent* event) {

@@ -23,7 +23,9 @@ class TreeSelectionModel final : public QItemSelectionModel {
 
  private:
   QTreeWidget& tree_;
-  bool open_ = false;  ///< The view's requests are let through.
+  friend class TreeWidget;
+  bool open_ = false;    ///< The view's requests are let through.
+  bool closed_ = false;  ///< The view's requests are ignored.
 };
 
 class TreeWidget final : public QTreeWidget {
@@ -34,6 +36,7 @@ class TreeWidget final : public QTreeWidget {
   void MoveSelection(QTreeWidgetItem* item);
 
  protected:
+  void focusInEvent(QFocusEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;

@@ -17,7 +17,8 @@ void WriteGoodLimits(Session& session) {
 }
 
 Json SelectedNode(Session& session) {
-  for (const Json& node : session.Do({{"do", "tree"}})["nodes"]) {
+  const Json nodes = session.Nodes();
+  for (const Json& node : nodes) {
     if (node["selected"] == true) return node;
   }
   return nullptr;
@@ -50,7 +51,7 @@ TEST(MainDialog, EveryPageOfTheTreeCanBeShown) {
   session.Write("config", "Options", "MaxNearDistance", 5);
   session.Write("config", "Options", "RegExMaxLines", 5);
   session.Open();
-  const Json nodes = session.Do({{"do", "tree"}})["nodes"];
+  const Json nodes = session.Nodes();
   ASSERT_GE(nodes.size(), 5U);
   for (const Json& node : nodes) {
     const Json reply = session.Do({{"do", "select"}, {"row", node["row"]}});
@@ -319,7 +320,8 @@ TEST(MainDialog, WithoutALanguageEveryTextSaysSo) {
   const TemporaryFolder data;
   Session session(data, {{"language", nullptr}});
   session.Open(27);
-  for (const Json& node : session.Do({{"do", "tree"}})["nodes"]) EXPECT_EQ(node["title"], kNone);
+  const Json nodes = session.Nodes();
+  for (const Json& node : nodes) EXPECT_EQ(node["title"], kNone);
   EXPECT_EQ(session.Get(kCaption)["text"], kNone);
   EXPECT_EQ(session.Get(5300)["items"], Json({kNone, kNone, kNone, kNone, kNone}));
   EXPECT_EQ(session.Get(5105)["text"], "{2}");
@@ -335,7 +337,8 @@ TEST(MainDialog, ControlsAreDescribedInTemplateOrder) {
   Session session(data);
   session.Open(27);
   std::vector<int> numbers;
-  for (const Json& control : session.Do({{"do", "controls"}, {"template", 5553}})["controls"]) {
+  const Json reply = session.Do({{"do", "controls"}, {"template", 5553}});
+  for (const Json& control : reply["controls"]) {
     EXPECT_EQ(control["template"], 5553);
     numbers.push_back(control["control"]);
   }

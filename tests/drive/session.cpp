@@ -170,7 +170,8 @@ Json Session::Top() {
 
 int Session::Select(int page) {
   const int row = Do({{"do", "select"}, {"page", page}}).value("selected", -1);
-  for (const Json& node : Do({{"do", "tree"}})["nodes"]) {
+  const Json nodes = Nodes();
+  for (const Json& node : nodes) {
     if (node["row"] == row) return node["page"];
   }
   return -1;

@@ -72,6 +72,8 @@ class Session {
   Json Dump(const std::string& store) { return Do({{"do", "dump"}, {"store", store}})["values"]; }
   /// The top window's description; null when none is open.
   Json Top();
+  /// The nodes of the page tree.
+  Json Nodes() { return Do({{"do", "tree"}})["nodes"]; }
   /// Clicks a node; the page selected afterwards.
   int Select(int page);
   /// Clicks OK (1) or Cancel (2); the status that the entry point returned, -1 when it did not.

@@ -88,8 +88,10 @@ TEST(CustomCombo, IndentsAndDisablesRows) {
     int indent;
     bool disabled;
   } rows[] = {
-      {L"\t\tAlpha", true, L"Alpha", 50, false}, {L"!Beta", true, L"Beta", 0, true},
-      {L"!Beta", false, L"!Beta", 0, false},     {L"\tGa!m\tma", true, L"Gamma", 50, true},
+      {L"\t\tAlpha", true, L"Alpha", 50, false},
+      {L"!Beta", true, L"Beta", 0, true},
+      {L"!Beta", false, L"!Beta", 0, false},
+      {L"\tGa!m\tma", true, L"Gamma", 50, true},
       {L"", true, L"", 0, false},
   };
   ComboHost<CCustomComboBox> host;
@@ -297,9 +299,9 @@ TEST(RegLoadedCombo, IsFilledWhenItDrops) {
   EXPECT_EQ(provider->calls, (std::vector<bool>{false, true}));
   EXPECT_EQ(host.control.GetCount(), 2);
   EXPECT_EQ(host.control.GetText(), L"typed");
-  EXPECT_EQ(host.control.GetDroppedWidth(),
-            host.control.GetTextWidth(longest) + host.control.GetTextWidth(L"WWW") +
-                GetSystemMetrics(SM_CXVSCROLL));
+  EXPECT_EQ(host.control.GetDroppedWidth(), host.control.GetTextWidth(longest) +
+                                                host.control.GetTextWidth(L"WWW") +
+                                                GetSystemMetrics(SM_CXVSCROLL));
   EXPECT_GE(host.List().window()->width(), host.control.GetDroppedWidth());
 }
 

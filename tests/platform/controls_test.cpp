@@ -167,8 +167,8 @@ TEST(Combo, TellsOnlyOfTheUsersChoice) {
   QTest::keyClick(widget.view(), Qt::Key_Down);
   EXPECT_EQ(combo->GetCurSel(), 2) << "the row highlighted";
   QTest::keyClick(widget.view(), Qt::Key_Return);
-  EXPECT_EQ(dialog.Take(), (Notes{{CBN_DROPDOWN, kControl}, {CBN_CLOSEUP, kControl},
-                                  {CBN_SELCHANGE, kControl}}));
+  EXPECT_EQ(dialog.Take(),
+            (Notes{{CBN_DROPDOWN, kControl}, {CBN_CLOSEUP, kControl}, {CBN_SELCHANGE, kControl}}));
 
   combo->ShowDropDown();
   QTest::keyClick(widget.view(), Qt::Key_Up);
@@ -186,8 +186,7 @@ TEST(Combo, ClosesAtOnceWithoutRows) {
 }
 
 TEST(Combo, KeepsTypedTextApartFromRows) {
-  ListeningDialog dialog({{L"ComboBox", L"", kControl, kEditable},
-                          {L"Edit", L"", kSecond}});
+  ListeningDialog dialog({{L"ComboBox", L"", kControl, kEditable}, {L"Edit", L"", kSecond}});
   Bound<CComboBox> combo(dialog);
   auto& widget = dialog.At<QComboBox>();
   widget.setFocus();
@@ -232,8 +231,8 @@ TEST(Combo, KeepsTheFocusWhileDropped) {
 }
 
 TEST(Combo, IsOneRowHigh) {
-  ListeningDialog dialog({{L"ComboBox", L"", kControl, kList, 7, 7, 50, 100},
-                          {L"Edit", L"", kSecond}});
+  ListeningDialog dialog(
+      {{L"ComboBox", L"", kControl, kList, 7, 7, 50, 100}, {L"Edit", L"", kSecond}});
   const QWidget& widget = dialog.At();
   EXPECT_EQ(widget.height(), widget.sizeHint().height());
   EXPECT_LT(widget.height(), 3 * widget.fontMetrics().height());
@@ -335,8 +334,9 @@ TEST(Button, ChangesItsStateAsItsStyleSays) {
     DWORD style;
     std::vector<int> states;  // After each click in the middle.
   } rows[] = {
-      {BS_AUTOCHECKBOX, {1, 0, 1}}, {BS_CHECKBOX, {0, 0}},     {BS_AUTO3STATE, {1, 2, 0}},
-      {BS_3STATE, {0}},             {BS_RADIOBUTTON, {0}},     {BS_PUSHBUTTON, {0}},
+      {BS_AUTOCHECKBOX, {1, 0, 1}}, {BS_CHECKBOX, {0, 0}},
+      {BS_AUTO3STATE, {1, 2, 0}},   {BS_3STATE, {0}},
+      {BS_RADIOBUTTON, {0}},        {BS_PUSHBUTTON, {0}},
       {BS_AUTORADIOBUTTON, {1, 1}}, {BS_AUTOCHECKBOX | BS_MULTILINE, {1}},
   };
   for (const auto& row : rows) {
@@ -358,9 +358,9 @@ TEST(Button, ChangesItsStateAsItsStyleSays) {
 
 TEST(Button, WrapsTheLabelOfSeveralLines) {
   const wchar_t* label = L"Two words or more than fit into the first line";
-  ListeningDialog dialog({{L"Button", label, kControl, kStop | BS_AUTOCHECKBOX, 7, 7, 70, 30},
-                          {L"Button", label, kSecond, kStop | BS_AUTOCHECKBOX | BS_MULTILINE, 7, 50,
-                           70, 30}});
+  ListeningDialog dialog(
+      {{L"Button", label, kControl, kStop | BS_AUTOCHECKBOX, 7, 7, 70, 30},
+       {L"Button", label, kSecond, kStop | BS_AUTOCHECKBOX | BS_MULTILINE, 7, 50, 70, 30}});
   const auto inkedRows = [&](int id) {
     const QImage image = dialog.At(id).grab().toImage();
     const int right = image.width() - 8;
@@ -376,8 +376,8 @@ TEST(Button, WrapsTheLabelOfSeveralLines) {
 }
 
 TEST(Static, TellsOfClicksOnlyWhenAskedTo) {
-  ListeningDialog dialog({{L"Static", L"<b>x</b>", kControl, kPlain | SS_NOTIFY},
-                          {L"Static", L"", kSecond, kPlain}});
+  ListeningDialog dialog(
+      {{L"Static", L"<b>x</b>", kControl, kPlain | SS_NOTIFY}, {L"Static", L"", kSecond, kPlain}});
   Click(dialog.At(kControl));
   Click(dialog.At(kSecond));
   EXPECT_EQ(dialog.Take(), (Notes{{STN_CLICKED, kControl}}));
@@ -476,8 +476,7 @@ TEST_F(TreeTest, EmptiesInsideANotification) {
 TEST_F(TreeTest, RemovesChildrenWithoutAsking) {
   tree_->SelectItem(second_);
   dialog_.Take();
-  tree_->SendMessage(TVM_EXPAND, TVE_COLLAPSE | TVE_COLLAPSERESET,
-                     reinterpret_cast<LPARAM>(root_));
+  tree_->SendMessage(TVM_EXPAND, TVE_COLLAPSE | TVE_COLLAPSERESET, reinterpret_cast<LPARAM>(root_));
   EXPECT_EQ(dialog_.Take(), (Notes{{TVN_SELCHANGEDW, kControl}}));
   EXPECT_EQ(tree_->GetSelectedItem(), root_);
   EXPECT_EQ(tree_->GetChildItem(root_), nullptr);

@@ -1,7 +1,7 @@
 #pragma once
 
-// Dialogs for tests: compiled resource scripts made in memory, a module that carries them, and modal
-// runs in which a test acts as the user.
+// Dialogs for tests: compiled resource scripts made in memory, a module that carries them, and
+// modal runs in which a test acts as the user.
 
 #include <QApplication>
 #include <QTest>
@@ -50,7 +50,9 @@ class TestModule {
     out.push_back(std::byte(value & 0xFF));
     out.push_back(std::byte(value >> 8 & 0xFF));
   }
-  static void Dword(Bytes& out, unsigned value) { Word(out, value & 0xFFFF), Word(out, value >> 16); }
+  static void Dword(Bytes& out, unsigned value) {
+    Word(out, value & 0xFFFF), Word(out, value >> 16);
+  }
   static void Align(Bytes& out) {
     while (out.size() % 4 != 0) out.push_back(std::byte(0));
   }
@@ -70,7 +72,8 @@ class TestModule {
     Bytes out;
     Word(out, 1), Word(out, 0xFFFF);
     Dword(out, 0), Dword(out, 0), Dword(out, source.style);
-    for (const int value : {static_cast<int>(source.items.size()), 0, 0, source.cx, source.cy, 0, 0})
+    for (const int value :
+         {static_cast<int>(source.items.size()), 0, 0, source.cx, source.cy, 0, 0})
       Word(out, static_cast<unsigned>(value));
     Text(out, source.title);
     for (const ItemSource& item : source.items) {

@@ -30,14 +30,12 @@ TEST(Dialog, MeasuresItsTemplateInTheInterfaceFont) {
   TestDialog dialog(500);
   ASSERT_TRUE(dialog.Create(500, nullptr));
   const QFontMetrics metrics(QApplication::font());
-  const QString letters =
-      QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+  const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
   const int baseX = (metrics.horizontalAdvance(letters) / 26 + 1) / 2;
   const int baseY = metrics.height();
   EXPECT_EQ(WidgetOf(dialog.m_hWnd)->size(), QSize(Units(200, baseX, 4), Units(120, baseY, 8)));
-  EXPECT_EQ(ControlWidget(dialog, 7)->geometry(),
-            QRect(Units(13, baseX, 4), Units(21, baseY, 8), Units(55, baseX, 4),
-                  Units(17, baseY, 8)));
+  EXPECT_EQ(ControlWidget(dialog, 7)->geometry(), QRect(Units(13, baseX, 4), Units(21, baseY, 8),
+                                                        Units(55, baseX, 4), Units(17, baseY, 8)));
   CRect rect(4, 8, 40, 80);
   MapDialogRect(dialog.m_hWnd, rect);
   EXPECT_EQ(rect, CRect(baseX, baseY, 10 * baseX, 10 * baseY));
@@ -82,13 +80,13 @@ TEST(Dialog, EndsByKeysAndByItsFrame) {
        IDCANCEL},
       {"Escape", 100, [](QWidget* focus) { QTest::keyClick(focus, Qt::Key_Escape); }, IDCANCEL},
       {"close", 100, [](QWidget* focus) { focus->window()->close(); }, IDCANCEL},
-      {"unhandled button", 101, [](QWidget* focus) { QTest::keyClick(focus, Qt::Key_Space); }, 4711},
+      {"unhandled button", 101, [](QWidget* focus) { QTest::keyClick(focus, Qt::Key_Space); },
+       4711},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     TestDialog dialog(500);
-    EXPECT_EQ(RunModal(dialog,
-                       {[&] {
+    EXPECT_EQ(RunModal(dialog, {[&] {
                          dialog.GetDlgItem(row.focus)->SetFocus();
                          row.act(ControlWidget(dialog, row.focus));
                        }}),
@@ -104,11 +102,12 @@ TEST(Dialog, LeavesDisabledButtonsAlone) {
     dialog.GetDlgItem(button)->EnableWindow(FALSE);
     act(ControlWidget(dialog, 100));
   };
-  EXPECT_EQ(RunModal(dialog,
-                     {[&] { press(IDOK, [](QWidget* w) { QTest::keyClick(w, Qt::Key_Return); }); },
-                      [&] { press(IDCANCEL, [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); }); },
-                      [&] { WidgetOf(dialog.m_hWnd)->close(); }}),
-            4711);
+  EXPECT_EQ(
+      RunModal(dialog,
+               {[&] { press(IDOK, [](QWidget* w) { QTest::keyClick(w, Qt::Key_Return); }); },
+                [&] { press(IDCANCEL, [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); }); },
+                [&] { WidgetOf(dialog.m_hWnd)->close(); }}),
+      4711);
 }
 
 TEST(Dialog, PressesTheButtonThatWasMadeTheDefault) {
@@ -118,8 +117,9 @@ TEST(Dialog, PressesTheButtonThatWasMadeTheDefault) {
     self.SetDefID(IDCANCEL);
     return TRUE;
   };
-  EXPECT_EQ(RunModal(dialog, {[&] { QTest::keyClick(ControlWidget(dialog, 100), Qt::Key_Return); }}),
-            IDCANCEL);
+  EXPECT_EQ(
+      RunModal(dialog, {[&] { QTest::keyClick(ControlWidget(dialog, 100), Qt::Key_Return); }}),
+      IDCANCEL);
 }
 
 TEST(Dialog, GivesTheFocusToTheFirstControlThatIsLeft) {

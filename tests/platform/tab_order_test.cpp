@@ -49,7 +49,8 @@ class TabOrder : public testing::Test {
   static int Focus() { return CWnd::GetFocus()->GetDlgCtrlID(); }
   static void Press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
   std::vector<int> Stops(Qt::Key key, int from) {
-    CWnd* start = host_.GetDlgItem(from) != nullptr ? host_.GetDlgItem(from) : page_.GetDlgItem(from);
+    CWnd* start =
+        host_.GetDlgItem(from) != nullptr ? host_.GetDlgItem(from) : page_.GetDlgItem(from);
     start->SetFocus();
     std::vector<int> stops{Focus()};
     do {

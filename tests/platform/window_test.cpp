@@ -148,7 +148,8 @@ TEST(Window, TellsItsSize) {
   dialog.setUp = [](TestDialog& self) { return self.ModifyStyle(0, WS_THICKFRAME), TRUE; };
   RunModal(dialog, {[&] {
              const QSize size = WidgetOf(dialog.m_hWnd)->size();
-             EXPECT_EQ(dialog.Of(WM_SIZE), std::vector<LPARAM>{MAKELPARAM(size.width(), size.height())});
+             EXPECT_EQ(dialog.Of(WM_SIZE),
+                       std::vector<LPARAM>{MAKELPARAM(size.width(), size.height())});
              EXPECT_EQ(dialog.seen.front().first, WM_INITDIALOG);
              WidgetOf(dialog.m_hWnd)->resize(700, 500);
              EXPECT_EQ(dialog.Of(WM_SIZE).back(), MAKELPARAM(700, 500));

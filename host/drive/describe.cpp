@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSlider>
+#include <algorithm>
 
 #include "host/drive/control_finder.h"
 #include "host/drive/window_stack.h"
@@ -45,8 +46,11 @@ QJsonObject DescribeDialog(const QWidget* dialog) {
 }
 
 QJsonObject DescribeMessage(const QMessageBox& box) {
+  QList<QAbstractButton*> shown = box.buttons();
+  std::sort(shown.begin(), shown.end(),
+            [](const QWidget* a, const QWidget* b) { return a->x() < b->x(); });
   QStringList buttons;
-  for (const QAbstractButton* button : box.buttons()) buttons << PlainText(button->text());
+  for (const QAbstractButton* button : shown) buttons << PlainText(button->text());
   return {{"kind", "message"},
           {"title", box.windowTitle()},
           {"text", box.text().replace("\r\n", "\n")},

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QTreeWidget>
 #include <QWidget>
 
 #include "host/drive/control_actions.h"
@@ -96,19 +97,23 @@ Plan Slide(Context& context, const Request& request) {
                    [value = request.Int("value")](QWidget* control) { SlideTo(control, value); });
 }
 
-Plan Tree(Context& context, const Request&) { return Reply(DescribeTree(context.windows)); }
+Plan Tree(Context& context, const Request&) {
+  return Reply(DescribeTree(FindTree(context.windows)));
+}
 
 Plan Select(Context& context, const Request& request) {
-  SelectedRow(context.windows);
-  return {[&context, request] {
+  // The click may open a message box or end the dialog.
+  const QPointer<QTreeWidget> tree = &FindTree(context.windows);
+  CheckUsable(context.windows, tree);
+  return {[tree, request] {
             if (request.Has("page")) {
-              SelectPage(context.windows, request.Int("page"));
+              SelectPage(*tree, request.Int("page"));
             } else {
-              SelectRow(context.windows, request.Int("row"));
+              SelectRow(*tree, request.Int("row"));
             }
           },
-          [&context] {
-            return QJsonObject{{"selected", SelectedRow(context.windows)}};
+          [tree] {
+            return QJsonObject{{"selected", tree != nullptr ? SelectedRow(*tree) : -1}};
           }};
 }
 

@@ -18,9 +18,7 @@
 
 namespace {
 
-QJsonArray ToArray(const QRect& rect) {
-  return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
+QJsonArray ToArray(const QRect& rect) { return {rect.x(), rect.y(), rect.width(), rect.height()}; }
 
 QJsonArray ToArray(const QStringList& texts) { return QJsonArray::fromStringList(texts); }
 
@@ -86,7 +84,8 @@ void DescribeEdit(const QWidget& control, QJsonObject& description) {
   const auto* lines = qobject_cast<const QPlainTextEdit*>(&control);
   const auto* line = qobject_cast<const QLineEdit*>(&control);
   description["multiline"] = lines != nullptr;
-  description["readonly"] = lines != nullptr ? lines->isReadOnly() : line != nullptr && line->isReadOnly();
+  description["readonly"] =
+      lines != nullptr ? lines->isReadOnly() : line != nullptr && line->isReadOnly();
 }
 
 // The fields that only controls of some kinds have.

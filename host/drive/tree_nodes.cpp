@@ -51,7 +51,8 @@ QTreeWidgetItem* SelectedItem(const QTreeWidget& tree) {
 }
 
 void ClickNode(QTreeWidget& tree, QTreeWidgetItem* item) {
-  for (const QTreeWidgetItem* parent = item->parent(); parent != nullptr; parent = parent->parent()) {
+  for (const QTreeWidgetItem* parent = item->parent(); parent != nullptr;
+       parent = parent->parent()) {
     if (parent->isExpanded()) continue;
     throw RequestError(QStringLiteral("The node \"%1\" is inside the collapsed node \"%2\".")
                            .arg(item->text(0), parent->text(0)));

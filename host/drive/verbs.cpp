@@ -76,12 +76,13 @@ Plan OnControl(Context& context, const Request& request, Action action) {
   return {[control, action] { action(control); }, {}};
 }
 
-Plan Click(Context& context, const Request& request) { return OnControl(context, request, ClickControl); }
+Plan Click(Context& context, const Request& request) {
+  return OnControl(context, request, ClickControl);
+}
 
 Plan Type(Context& context, const Request& request) {
-  return OnControl(context, request, [text = request.Text("text")](QWidget* control) {
-    TypeInto(control, text);
-  });
+  return OnControl(context, request,
+                   [text = request.Text("text")](QWidget* control) { TypeInto(control, text); });
 }
 
 Plan Pick(Context& context, const Request& request) {
@@ -126,10 +127,9 @@ Plan DismissTop(Context& context, const Request&) {
 }
 
 Plan Menu(Context& context, const Request& request) {
-  return {[&context, command = request.Int("command")] {
-            ChooseFromMenu(context.windows, command);
-          },
-          {}};
+  return {
+      [&context, command = request.Int("command")] { ChooseFromMenu(context.windows, command); },
+      {}};
 }
 
 Plan Key(Context& context, const Request& request) {
@@ -203,12 +203,12 @@ struct Verb {
 };
 
 constexpr Verb kVerbs[] = {
-    {"open", Open},         {"windows", Windows}, {"controls", Controls}, {"get", Get},
-    {"click", Click},       {"type", Type},       {"pick", Pick},         {"slide", Slide},
-    {"tree", Tree},         {"select", Select},   {"press", Press},       {"dismiss", DismissTop},
-    {"menu", Menu},         {"key", Key},         {"resize", Resize},     {"shot", Shot},
-    {"ok", Ok},             {"cancel", Cancel},   {"read", Read},         {"write", Write},
-    {"dump", Dump},         {"log", Log},         {"clipboard", Clipboard}, {"wait", Wait},
+    {"open", Open},   {"windows", Windows}, {"controls", Controls},   {"get", Get},
+    {"click", Click}, {"type", Type},       {"pick", Pick},           {"slide", Slide},
+    {"tree", Tree},   {"select", Select},   {"press", Press},         {"dismiss", DismissTop},
+    {"menu", Menu},   {"key", Key},         {"resize", Resize},       {"shot", Shot},
+    {"ok", Ok},       {"cancel", Cancel},   {"read", Read},           {"write", Write},
+    {"dump", Dump},   {"log", Log},         {"clipboard", Clipboard}, {"wait", Wait},
 };
 
 }  // namespace

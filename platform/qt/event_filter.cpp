@@ -156,18 +156,30 @@ class EventFilter : public QObject {
 
   static bool Handle(Peer& peer, QEvent& event) {
     switch (event.type()) {
-      case QEvent::Resize: return OnResize(peer);
-      case QEvent::WindowStateChange: return OnStateChange(peer);
-      case QEvent::WindowActivate: return OnActivate(peer);
-      case QEvent::WindowUnblocked: return OnUnblocked(peer);
-      case QEvent::Close: return OnClose(peer, event);
-      case QEvent::FocusIn: return SendBesideEvent(peer, WM_SETFOCUS);
-      case QEvent::FocusOut: return OnFocusOut(peer, static_cast<QFocusEvent&>(event));
-      case QEvent::KeyPress: return OnKeyPress(peer, static_cast<QKeyEvent&>(event));
-      case QEvent::Paint: return OnPaint(peer);
-      case QEvent::ToolTip: return OnToolTip(peer, static_cast<QHelpEvent&>(event));
-      case QEvent::ContextMenu: return OnContextMenu(peer, static_cast<QContextMenuEvent&>(event));
-      default: return false;
+      case QEvent::Resize:
+        return OnResize(peer);
+      case QEvent::WindowStateChange:
+        return OnStateChange(peer);
+      case QEvent::WindowActivate:
+        return OnActivate(peer);
+      case QEvent::WindowUnblocked:
+        return OnUnblocked(peer);
+      case QEvent::Close:
+        return OnClose(peer, event);
+      case QEvent::FocusIn:
+        return SendBesideEvent(peer, WM_SETFOCUS);
+      case QEvent::FocusOut:
+        return OnFocusOut(peer, static_cast<QFocusEvent&>(event));
+      case QEvent::KeyPress:
+        return OnKeyPress(peer, static_cast<QKeyEvent&>(event));
+      case QEvent::Paint:
+        return OnPaint(peer);
+      case QEvent::ToolTip:
+        return OnToolTip(peer, static_cast<QHelpEvent&>(event));
+      case QEvent::ContextMenu:
+        return OnContextMenu(peer, static_cast<QContextMenuEvent&>(event));
+      default:
+        return false;
     }
   }
 };

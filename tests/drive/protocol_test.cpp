@@ -40,7 +40,8 @@ TEST(Protocol, BadLinesAreRefusedByNameAndChangeNothing) {
        "whole number"},
       {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"bool","value":1})",
        "true or false"},
-      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"int"})", "\"value\""},
+      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"int"})",
+       "\"value\""},
       {R"({"do":"press","button":"OK"})", "No window"},
       {R"({"do":"dismiss"})", "No window"},
   };
@@ -91,8 +92,9 @@ TEST(Protocol, WrittenValuesReachTheNextRun) {
 TEST(Protocol, EveryRequestOfABatchIsAnsweredInOrder) {
   const TemporaryFolder data;
   Session session(data);
-  const Json reply = session.Send(std::string(
-      "{\"do\":\"wait\",\"ms\":1}\n{\"do\":\"bad\"}\n{\"do\":\"clipboard\"}\n{\"do\":\"dump\",\"store\":\"fourth\"}"));
+  const Json reply =
+      session.Send(std::string("{\"do\":\"wait\",\"ms\":1}\n{\"do\":\"bad\"}\n{\"do\":"
+                               "\"clipboard\"}\n{\"do\":\"dump\",\"store\":\"fourth\"}"));
   EXPECT_EQ(reply, Json({{"ok", true}}));
   // The three replies left are read one request late; the last three are these requests' own.
   EXPECT_EQ(session.Send(std::string("{\"do\":\"windows\"}"))["ok"], false);
@@ -138,6 +140,34 @@ TEST(Protocol, OnlyOneDialogAtATime) {
   ASSERT_EQ(events.size(), 1U);
   EXPECT_EQ(events[0], Json({{"event", "returned"}, {"entry", "ShowMessage"}, {"status", 0}}));
   EXPECT_TRUE(session.Top().is_null());
+}
+
+TEST(Protocol, AnActionThatIsNotWaitedForIsAnsweredAtOnce) {
+  const TemporaryFolder data;
+  Session session(data);
+  const Json open = {{"do", "open"}, {"entry", "OpenConfigDialog"}, {"wait", false}};
+  EXPECT_EQ(session.Send(open), Json({{"ok", true}}));
+  session.Do({{"do", "wait"}, {"ms", 0}});
+  ASSERT_EQ(session.Top()["kind"], "dialog");
+  EXPECT_EQ(session.Send(Json{{"do", "cancel"}, {"wait", false}}), Json({{"ok", true}}));
+  session.Do({{"do", "wait"}, {"ms", 0}});
+  EXPECT_EQ(session.TakeEvents().size(), 1U);
+  EXPECT_NE(session.Refused({{"do", "cancel"}, {"wait", false}}).find("No window"),
+            std::string::npos);
+}
+
+TEST(Protocol, TheMessageIsCopiedAndShot) {
+  const TemporaryFolder data;
+  Session session(data);
+  session.Do({{"do", "open"}, {"entry", "ShowMessage"}});
+  EXPECT_EQ(session.Get(5041)["readonly"], true);
+  session.Type(5041, "lost");
+  EXPECT_EQ(session.Get(5041)["text"], "Testing");
+  session.Click(5334);
+  EXPECT_EQ(session.Do({{"do", "clipboard"}})["text"], "Testing");
+  session.Do({{"do", "shot"}, {"file", data / "shot.png"}});
+  EXPECT_EQ(ReadFile(data / "shot.png").substr(1, 3), "PNG");
+  session.Refused({{"do", "shot"}, {"file", data / "none/shot.png"}});
 }
 
 }  // namespace

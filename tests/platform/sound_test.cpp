@@ -84,7 +84,9 @@ TEST_F(Sound, EverySampleIsPlayed) {
     ASSERT_TRUE(PlaySoundW(Wide(row.name), kFlags)) << row.name;
     const auto played = Played();
     ASSERT_EQ(played.size(), samples_.size()) << row.name;
-    if (row.exact) EXPECT_EQ(played, samples_) << row.name;
+    if (row.exact) {
+      EXPECT_EQ(played, samples_) << row.name;
+    }
   }
 }
 

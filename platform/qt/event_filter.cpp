@@ -55,10 +55,15 @@ bool OnActivate(const Peer& peer) {
   return false;
 }
 
-/// The modal window above has gone. It hands its activity on to the window below, also where no
-/// window manager does that.
+/// The modal window above is going. It hands its activity on to the window below, also where no
+/// window manager sees to that. Not before it has gone: its end takes the activity from all windows.
 bool OnUnblocked(const Peer& peer) {
-  if (QApplication::activeWindow() != nullptr) peer.widget->activateWindow();
+  if (!IsDialog(peer) || QApplication::activeWindow() == nullptr) return false;
+  QWidget* window = peer.widget->window();
+  const auto activate = [window] {
+    if (QApplication::activeWindow() == nullptr) window->activateWindow();
+  };
+  QMetaObject::invokeMethod(window, activate, Qt::QueuedConnection);
   return false;
 }
 

@@ -32,15 +32,20 @@ TEST(Protocol, BadLinesAreRefusedByNameAndChangeNothing) {
       {R"({"do":"click","control":1})", "No window"},
       {R"({"do":"get","control":1,"template":5526})", "5526"},
       {R"({"do":"pick","control":1})", "exactly one"},
-      {R"({"do":"write","store":"confg","section":"Options","key":"Kept","type":"int","value":8})",
+      {R"({"do":"write",)"
+       R"("store":"confg","section":"Options","key":"Kept","type":"int","value":8})",
        "\"config\""},
-      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"long","value":8})",
+      {R"({"do":"write",)"
+       R"("store":"config","section":"Options","key":"Kept","type":"long","value":8})",
        "\"long\""},
-      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"int","value":"8"})",
+      {R"({"do":"write",)"
+       R"("store":"config","section":"Options","key":"Kept","type":"int","value":"8"})",
        "whole number"},
-      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"bool","value":1})",
+      {R"({"do":"write",)"
+       R"("store":"config","section":"Options","key":"Kept","type":"bool","value":1})",
        "true or false"},
-      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"int"})",
+      {R"({"do":"write",)"
+       R"("store":"config","section":"Options","key":"Kept","type":"int"})",
        "\"value\""},
       {R"({"do":"press","button":"OK"})", "No window"},
       {R"({"do":"dismiss"})", "No window"},

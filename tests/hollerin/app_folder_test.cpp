@@ -22,9 +22,12 @@ struct Row {
 class AppFolders : public testing::Test {
  protected:
   AppFolders() {
-    machine_->folders = {{L"%HOME%", L"/home/user"},   {L"%DATA%", L"/home/user/data"},
-                         {L"%DATA_OLD%", L"/srv/old/"}, {L"%WIN%", LR"(C:\Users\Me)"},
-                         {L"%ROOT%", L"/"},             {L"%EMPTY%", L""}};
+    machine_->folders = {{L"%HOME%", L"/home/user"},
+                         {L"%DATA%", L"/home/user/data"},
+                         {L"%DATA_OLD%", L"/srv/old/"},
+                         {L"%WIN%", LR"(C:\Users\Me)"},
+                         {L"%ROOT%", L"/"},
+                         {L"%EMPTY%", L""}};
   }
   ScopedMachine machine_;
 };

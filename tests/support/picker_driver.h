@@ -23,7 +23,8 @@ class PickerDriver : public QObject {
     if (picker != nullptr && picker != used_ && event->type() == QEvent::WindowActivate) {
       used_ = picker;
       ++shown;
-      QMetaObject::invokeMethod(picker, [this, picker] { use_(*picker); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          picker, [this, picker] { use_(*picker); }, Qt::QueuedConnection);
     }
     return false;
   }

@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr CSize kSmall{1000, 800};
-constexpr CSize kLarge{1160, 890};
+const CSize kSmall{1000, 800};
+const CSize kLarge{1160, 890};
 constexpr int kColumns = 20;
 constexpr int kFirstControl = 6000;
 
@@ -62,11 +62,13 @@ class Scene {
  public:
   explicit Scene(int count) {
     dialog_.count = count;
+    const QWidgetList before = QApplication::topLevelWidgets();
     dialog_.Create(IDD_MESSAGE_BOX, nullptr);
     dialog_.ShowWindow(SW_SHOW);
     ToolkitApplication::ProcessEvents();
     for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (window->property("templateNumber").toInt() == IDD_MESSAGE_BOX) moves_.window = window;
+      const bool made = window->property("templateNumber").toInt() == IDD_MESSAGE_BOX;
+      if (made && !before.contains(window)) moves_.window = window;
     }
     for (QWidget* child : moves_.window->findChildren<QWidget*>()) {
       if (child->property("controlNumber").toInt() >= kFirstControl) moves_.widgets.push_back(child);

@@ -13,8 +13,8 @@ constexpr HRESULT kUnusablePath = static_cast<HRESULT>(0x80040612U);
 /// item") when the desktop has no program for it or cannot be reached.
 void ExecuteItem(const ShellItem& item);
 
-/// Opens the file or folder of that name and says whether it was opened. A long-path prefix does not
-/// count; a Windows-style path is looked for where the machine's drives lie, any other path in the
-/// file system as it is written. A path that names nothing (0x80040612, "Testing folder path"), and
-/// an item that cannot be opened, is shown to the user.
+/// Opens the file or folder of that name and says whether it was opened. A long-path prefix does
+/// not count; a Windows-style path is looked for where the machine's drives lie, any other path in
+/// the file system as it is written. A path that names nothing (0x80040612, "Testing folder path"),
+/// and an item that cannot be opened, is shown to the user.
 bool ExecuteItemFromName(const std::wstring& path);

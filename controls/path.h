@@ -11,10 +11,10 @@
 #include <string_view>
 #include <utility>
 
-/// The root of a path. Of a Windows-style path the drive or the share, always ending in a backslash:
-/// "C:\dir\x" has "C:\", "\\server\share\dir" has "\\server\share\"; a long-path prefix stays part
-/// of the root, and a path without a separator after its drive, share or first two characters is its
-/// own root. Of a path of this system "/", or nothing when the path is relative.
+/// The root of a path. Of a Windows-style path the drive or the share, always ending in a
+/// backslash: "C:\dir\x" has "C:\", "\\server\share\dir" has "\\server\share\"; a long-path prefix
+/// stays part of the root, and a path without a separator after its drive, share or first two
+/// characters is its own root. Of a path of this system "/", or nothing when the path is relative.
 std::wstring GetPathRoot(std::wstring_view path);
 
 /// Whether the file or folder exists. Separators at the end do not count, but a root keeps its own.

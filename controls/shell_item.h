@@ -15,8 +15,8 @@ struct ShellItem {
   ino_t node = 0;
 };
 
-/// Finds the item that a path of either style names, following links. E_FAIL, with the reason as the
-/// last system error, when there is none; `item` is left alone then.
+/// Finds the item that a path of either style names, following links. E_FAIL, with the reason as
+/// the last system error, when there is none; `item` is left alone then.
 HRESULT ParseDisplayName(std::wstring_view path, ShellItem& item);
 
 /// 0 when both are the same file or folder, else 1 or -1: an order that has no meaning to a person.

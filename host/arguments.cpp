@@ -15,7 +15,7 @@ struct Command {
 
 constexpr Command kCommands[] = {
     {"config", "", 0, 0, " --page --pictures ", "open the settings; the default command"},
-    {"message", "", 0, 0, "", "show the test message"},
+    {"message", "", 0, 0, " --pictures ", "show the test message"},
     {"get", "STORE SECTION KEY", 3, 3, "", "print a value"},
     {"set", "STORE SECTION KEY VALUE", 4, 4, " --type ", "store a value"},
     {"list", "[STORE]", 0, 1, "", "print all values: store, section, key, type, value"},
@@ -62,8 +62,8 @@ constexpr Option kOptions[] = {
      "config: number of the page to show first (default: 4)"},
     {"--pictures", "DIR", "a folder", false,
      [](Arguments& to, const QString& value) { return SetText(to.pictures, value); },
-     "config without a display: folder of the pictures (default:\n"
-     "                   pictures in the data folder)"},
+     "config, message: without a display, folder of the pictures\n"
+     "                   (default: pictures in the data folder)"},
     {"--type", "TYPE", "\"bool\", \"int\" or \"string\"", false,
      [](Arguments& to, const QString& value) {
        to.type = value;
@@ -171,9 +171,11 @@ QString HelpText() {
     text += QStringLiteral("  %1 %2\n").arg(call, -28).arg(QLatin1String(command.help));
   }
   text += QStringLiteral(
-      "STORE is config, master, history or fourth. A value that begins with a dash goes behind --.\n"
-      "Without a display, config works off screen: it writes a picture of every page, changes one\n"
-      "setting, saves it and says what was written where.\n"
+      "STORE is config, master, history or fourth. A value that begins with a dash goes behind "
+      "--.\n"
+      "Without a display, config and message work off screen and write pictures; config also "
+      "changes\n"
+      "one setting, saves it and says what was written where.\n"
       "\nOptions:\n");
   for (const Option& option : kOptions) {
     const QString call = QStringLiteral("%1 %2").arg(option.name, option.operand);

@@ -9,6 +9,8 @@
 
 namespace {
 
+bool HasDisplay() { return QGuiApplication::platformName() != QLatin1String("offscreen"); }
+
 int Show(Environment& environment, const QString& entry) {
   EntryRunner entries(environment);
   if (QString error; !entries.Load(error)) {
@@ -24,12 +26,11 @@ int Show(Environment& environment, const QString& entry) {
 }  // namespace
 
 int RunConfig(Environment& environment) {
-  if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
-    return RunUnseenConfig(environment);
-  }
+  if (!HasDisplay()) return RunUnseenConfig(environment);
   return Show(environment, QStringLiteral("OpenConfigDialog"));
 }
 
 int RunMessage(Environment& environment) {
+  if (!HasDisplay()) return RunUnseenMessage(environment);
   return Show(environment, QStringLiteral("ShowMessage"));
 }

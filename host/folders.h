@@ -8,8 +8,8 @@
 /// The folder of the stores: `wanted`, or the user's own when that is empty. Absolute.
 QString DataFolder(const QString& wanted);
 
-/// The folder of the language files: `wanted`, or the installed one, or that of the source tree that
-/// the program was built in. Absolute; where none has a language file, the installed one.
+/// The folder of the language files: `wanted`, or the installed one, or that of the source tree
+/// that the program was built in. Absolute; where none has a language file, the installed one.
 QString LanguageFolder(const QString& wanted);
 
 /// The folder of "master.revert.xml": the data folder when it has that file, so that a user can

@@ -20,8 +20,7 @@ constexpr int kLeast = std::numeric_limits<int>::min();
 const Shape::Check& MachineShape() {
   using namespace Shape;
   const QStringList stores = {"config", "master", "history", "fourth"};
-  const Check values =
-      MapOf(MapOf(Either(Either(Bool(), Integer(kLeast, kMost)), Text())));
+  const Check values = MapOf(MapOf(Either(Either(Bool(), Integer(kLeast, kMost)), Text())));
   static const Check shape = ObjectOf({
       {"processors", Integer(1, kMost)},
       {"dpi", Integer(48, 960)},
@@ -38,10 +37,9 @@ const Shape::Check& MachineShape() {
       {"ocrLanguages",
        Either(ListOf(ObjectOf({{"code", Text()}, {"name", Text()}, {"available", Bool()}})),
               OneOf({"fails"}))},
-      {"ifilters", ListOf(ObjectOf({{"extension", Text()},
-                                    {"name", Text()},
-                                    {"location", Text()},
-                                    {"text", Bool()}}))},
+      {"ifilters",
+       ListOf(ObjectOf(
+           {{"extension", Text()}, {"name", Text()}, {"location", Text()}, {"text", Bool()}}))},
       {"components", ListOf(Text())},
       {"sound", OneOf({"plays", "fails"})},
       {"folders", MapOf(Text())},
@@ -81,7 +79,8 @@ std::shared_ptr<const MachineFile> MachineFile::Parse(const QByteArray& text, QS
   QJsonParseError problem;
   const QJsonDocument document = QJsonDocument::fromJson(text, &problem);
   if (document.isNull()) {
-    error = QStringLiteral("not JSON: %1 at byte %2").arg(problem.errorString()).arg(problem.offset);
+    error =
+        QStringLiteral("not JSON: %1 at byte %2").arg(problem.errorString()).arg(problem.offset);
     return nullptr;
   }
   const QJsonValue value =

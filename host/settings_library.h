@@ -6,6 +6,6 @@
 
 class QString;
 
-/// The library's functions; loaded at the first call and kept for the life of the process. Null with
-/// the reason in `error` when it cannot be loaded.
+/// The library's functions; loaded at the first call and kept for the life of the process. Null
+/// with the reason in `error` when it cannot be loaded.
 const BRISQUEL::EntryPoints* LoadSettingsLibrary(QString& error);

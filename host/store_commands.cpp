@@ -16,9 +16,10 @@ StoreId NamedStore(const Environment& environment) {
   const QString name = environment.GetArguments().operands.front();
   const StoreId id = Stores::Find(name);
   if (id == kStoreCount) {
-    PrintError(QStringLiteral("There is no store \"%1\"; the stores are config, master, history and "
-                              "fourth.")
-                   .arg(name));
+    PrintError(
+        QStringLiteral("There is no store \"%1\"; the stores are config, master, history and "
+                       "fourth.")
+            .arg(name));
   }
   return id;
 }
@@ -82,7 +83,8 @@ int RunSet(Environment& environment) {
   if (type.isEmpty()) type = stored != nullptr ? TypeName(*stored) : QStringLiteral("string");
   const auto value = ParseValue(type, arguments.operands[3]);
   if (!value) {
-    PrintError(QStringLiteral("\"%1\" is no value of the type %2.").arg(arguments.operands[3], type));
+    PrintError(
+        QStringLiteral("\"%1\" is no value of the type %2.").arg(arguments.operands[3], type));
     return kExitUsage;
   }
   store.Write(arguments.operands[1].toStdWString(), arguments.operands[2].toStdWString(), *value);
@@ -124,7 +126,8 @@ int RunImport(Environment& environment) {
   if (id == kStoreCount) return kExitUsage;
   const QFileInfo file(environment.GetArguments().operands[1]);
   const std::shared_ptr<HOLLERIN::Store> imported = HOLLERIN::CreateStore();
-  if (FAILED(imported->LoadFile(WithSeparator(file.absolutePath()), file.fileName().toStdWString()))) {
+  if (FAILED(
+          imported->LoadFile(WithSeparator(file.absolutePath()), file.fileName().toStdWString()))) {
     PrintError(QStringLiteral("%1 is no readable store file.").arg(file.filePath()));
     return kExitFile;
   }

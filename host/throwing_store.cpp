@@ -27,7 +27,9 @@ void ThrowingStore::SaveToText(std::wstring& text) { store_->SaveToText(text); }
 
 void ThrowingStore::SaveToNarrowText(std::string& text) { store_->SaveToNarrowText(text); }
 
-void ThrowingStore::LoadFromNarrowText(const std::string& text) { store_->LoadFromNarrowText(text); }
+void ThrowingStore::LoadFromNarrowText(const std::string& text) {
+  store_->LoadFromNarrowText(text);
+}
 
 void ThrowingStore::LoadFromText(const std::wstring& text) { store_->LoadFromText(text); }
 

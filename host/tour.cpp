@@ -73,12 +73,13 @@ class Script {
     }
     const QJsonObject request = requests_.front();
     requests_.pop_front();
-    const bool vetoed = request["do"] == "select" && reply["selected"] != request["row"];
+    const bool vetoed = request.contains("row") && reply["selected"] != request["row"];
     if (!reply["ok"].toBool() || vetoed) {
       failed_ = true;
-      environment_.Report(vetoed ? QStringLiteral("The page before row %1 cannot be left.")
-                                       .arg(request["row"].toInt())
-                                 : reply["error"].toString());
+      environment_.Report(
+          vetoed
+              ? QStringLiteral("The page before row %1 cannot be left.").arg(request["row"].toInt())
+              : reply["error"].toString());
     }
     if (request["do"] == "tree") InsertPages(reply["nodes"].toArray());
     Send();
@@ -104,6 +105,19 @@ class Script {
   bool failed_ = false;
 };
 
+void AddMessage(Script& script) {
+  script.Add({{"do", "open"}, {"entry", "ShowMessage"}});
+  script.AddShot(QStringLiteral("message"));
+  script.Add({{"do", "key"}, {"key", "Escape"}});
+}
+
+// Where the commands without a display put their pictures.
+QString PictureFolder(Environment& environment) {
+  const QString& wanted = environment.GetArguments().pictures;
+  return wanted.isEmpty() ? environment.GetStores().Folder() + "/pictures"
+                          : QDir(wanted).absolutePath();
+}
+
 void PrintPictures(const Script& script, const QString& folder) {
   Print(QStringLiteral("%1 pictures in %2\n").arg(script.Pictures().size()).arg(folder));
 }
@@ -121,7 +135,8 @@ QStringList Differences(const QJsonObject& before, const QJsonObject& after) {
     for (auto value = values.begin(); value != values.end(); ++value) {
       if (old[value.key()] == value.value()) continue;
       lines << QStringLiteral("  %1/%2: %3 -> %4")
-                   .arg(section.key(), value.key(), ToText(old[value.key()]), ToText(value.value()));
+                   .arg(section.key(), value.key(), ToText(old[value.key()]),
+                        ToText(value.value()));
     }
   }
   return lines;
@@ -135,9 +150,7 @@ int RunTour(Environment& environment) {
   script.Add({{"do", "open"}, {"entry", "OpenConfigDialog"}});
   script.AddPages();
   script.Add({{"do", "cancel"}});
-  script.Add({{"do", "open"}, {"entry", "ShowMessage"}});
-  script.AddShot(QStringLiteral("message"));
-  script.Add({{"do", "key"}, {"key", "Escape"}});
+  AddMessage(script);
   const bool good = script.Play();
   PrintPictures(script, folder);
   return good ? kExitDone : kExitLibrary;
@@ -145,9 +158,7 @@ int RunTour(Environment& environment) {
 
 int RunUnseenConfig(Environment& environment) {
   const Arguments& arguments = environment.GetArguments();
-  const QString folder = arguments.pictures.isEmpty()
-                             ? environment.GetStores().Folder() + "/pictures"
-                             : QDir(arguments.pictures).absolutePath();
+  const QString folder = PictureFolder(environment);
   const QJsonObject before = DumpStore(environment.GetStores().Get(kConfig));
   Script script(environment, folder);
   script.Add({{"do", "open"}, {"entry", "OpenConfigDialog"}, {"page", arguments.page}});
@@ -162,9 +173,17 @@ int RunUnseenConfig(Environment& environment) {
     environment.Report(QStringLiteral("The settings were not saved."));
     return kExitLibrary;
   }
-  const QStringList changes =
-      Differences(before, DumpStore(environment.GetStores().Get(kConfig)));
+  const QStringList changes = Differences(before, DumpStore(environment.GetStores().Get(kConfig)));
   Print(QStringLiteral("Saved in %1, changed:\n%2\n")
             .arg(environment.GetStores().Path(kConfig), changes.join('\n')));
   return kExitDone;
+}
+
+int RunUnseenMessage(Environment& environment) {
+  const QString folder = PictureFolder(environment);
+  Script script(environment, folder);
+  AddMessage(script);
+  const bool good = script.Play();
+  PrintPictures(script, folder);
+  return good ? kExitDone : kExitLibrary;
 }

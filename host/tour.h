@@ -8,6 +8,10 @@ class Environment;
 /// Returns an exit status.
 int RunTour(Environment& environment);
 
-/// What the command "config" does without a display: writes pictures of the main dialog, changes one
-/// setting, saves it and says what was written where. Returns an exit status.
+/// What the command "config" does without a display: writes pictures of the main dialog, changes
+/// one setting, saves it and says what was written where. Returns an exit status.
 int RunUnseenConfig(Environment& environment);
+
+/// What the command "message" does without a display: writes a picture of the message. Returns an
+/// exit status.
+int RunUnseenMessage(Environment& environment);

@@ -7,7 +7,8 @@ QString TypeName(const HOLLERIN::Value& value) {
 
 QString ValueText(const HOLLERIN::Value& value) {
   if (const bool* flag = std::get_if<bool>(&value)) return *flag ? "true" : "false";
-  if (const std::int32_t* number = std::get_if<std::int32_t>(&value)) return QString::number(*number);
+  if (const std::int32_t* number = std::get_if<std::int32_t>(&value))
+    return QString::number(*number);
   return QString::fromStdWString(std::get<std::wstring>(value));
 }
 

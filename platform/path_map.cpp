@@ -90,8 +90,7 @@ std::wstring NoPlace() {
 }  // namespace
 
 bool IsWindowsPath(std::wstring_view path) {
-  return HasDrive(path) ||
-         (!path.starts_with(L'/') && path.find(L'\\') != std::wstring_view::npos);
+  return HasDrive(path) || (!path.starts_with(L'/') && path.find(L'\\') != std::wstring_view::npos);
 }
 
 std::wstring NativePath(std::wstring_view path) {

@@ -16,11 +16,11 @@
 
 namespace {
 
-constexpr auto kLongestStart = std::chrono::seconds(2);
-constexpr unsigned kLatency = 200'000;      ///< Of the device's buffer, in microseconds.
-constexpr int kWait = 100;                  ///< For room in the buffer, in milliseconds.
-constexpr int kSilentWaits = 20;            ///< Waits without room until the device counts as dead.
-constexpr std::size_t kBlock = 1 << 13;     ///< Samples read at a time.
+constexpr auto kLongestStart = std::chrono::seconds(1);
+constexpr unsigned kLatency = 200'000;   ///< Of the device's buffer, in microseconds.
+constexpr int kWait = 100;               ///< For room in the buffer, in milliseconds.
+constexpr int kSilentWaits = 20;         ///< Waits without room until the device counts as dead.
+constexpr std::size_t kBlock = 1 << 13;  ///< Samples read at a time.
 
 struct CloseSoundFile {
   void operator()(SNDFILE* file) const { sf_close(file); }
@@ -43,9 +43,9 @@ Device OpenDevice(const SF_INFO& format) {
   snd_pcm_t* opened = nullptr;
   if (snd_pcm_open(&opened, "default", SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK) < 0) return {};
   Device device(opened);
-  const int status = snd_pcm_set_params(
-      opened, SND_PCM_FORMAT_S16, SND_PCM_ACCESS_RW_INTERLEAVED,
-      static_cast<unsigned>(format.channels), static_cast<unsigned>(format.samplerate), 1, kLatency);
+  const int status = snd_pcm_set_params(opened, SND_PCM_FORMAT_S16, SND_PCM_ACCESS_RW_INTERLEAVED,
+                                        static_cast<unsigned>(format.channels),
+                                        static_cast<unsigned>(format.samplerate), 1, kLatency);
   return status < 0 ? Device() : std::move(device);
 }
 

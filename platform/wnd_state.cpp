@@ -9,9 +9,7 @@ namespace {
 
 constexpr DWORD kLiveStyles = WS_VISIBLE | WS_DISABLED;
 
-bool IsEnabled(const Peer& peer) {
-  return peer.widget->isEnabledTo(peer.widget->parentWidget());
-}
+bool IsEnabled(const Peer& peer) { return peer.widget->isEnabledTo(peer.widget->parentWidget()); }
 
 /// The widget knows whether it is shown and enabled; the other styles stand in the peer.
 DWORD StyleOf(const Peer& peer) {

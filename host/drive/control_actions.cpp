@@ -23,6 +23,15 @@ namespace {
   throw RequestError(QStringLiteral("A person cannot use %1: %2.").arg(NameControl(control), why));
 }
 
+// A dropped list takes the next click, wherever it goes.
+void CheckNoListDropped(QWidget* control) {
+  for (QComboBox* combo : control->window()->findChildren<QComboBox*>()) {
+    if (combo != control && combo->view()->isVisible()) {
+      Refuse(control, QStringLiteral("the list of %1 is dropped").arg(NameControl(combo)));
+    }
+  }
+}
+
 // Only the focus of the keyboard is set; what the keys do then is up to the control.
 void Focus(QWidget* control) {
   QWidget* focus = QApplication::focusWidget();
@@ -155,6 +164,7 @@ void CheckUsable(const WindowStack& windows, QWidget* control) {
   }
   if (!control->isVisible()) Refuse(control, QStringLiteral("it is hidden"));
   if (!control->isEnabled()) Refuse(control, QStringLiteral("it is disabled"));
+  CheckNoListDropped(control);
 }
 
 void CheckKind(const QWidget* control, const QString& kinds, const QString& verb) {
@@ -219,10 +229,11 @@ void SlideTo(QWidget* control, int value) {
     const int before = slider->value();
     const bool up = value > before;
     const bool far = qAbs(value - before) >= slider->pageStep();
-    const Qt::Key key = far ? (up ? Qt::Key_PageUp : Qt::Key_PageDown)
-                            : (up ? Qt::Key_Right : Qt::Key_Left);
+    const Qt::Key key =
+        far ? (up ? Qt::Key_PageUp : Qt::Key_PageDown) : (up ? Qt::Key_Right : Qt::Key_Left);
     const bool pressed = typist.Press(key);
-    if (pressed && slider != nullptr && qAbs(value - slider->value()) < qAbs(value - before)) continue;
+    if (pressed && slider != nullptr && qAbs(value - slider->value()) < qAbs(value - before))
+      continue;
     throw RequestError(QStringLiteral("The keys do not move the slider beyond %1.").arg(before));
   }
 }

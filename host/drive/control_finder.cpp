@@ -134,11 +134,12 @@ QWidget* FindControl(const WindowStack& windows, const Request& request) {
     const QList<QWidget*> found = WithNumber(controls, number);
     if (found.size() == 1) return found.front();
     if (found.size() > 1) {
-      throw RequestError(QStringLiteral("%1 controls of template %2 have the number %3; name one by "
-                                        "its place with \"nth\".")
-                             .arg(found.size())
-                             .arg(TemplateNumber(place))
-                             .arg(number));
+      throw RequestError(
+          QStringLiteral("%1 controls of template %2 have the number %3; name one by "
+                         "its place with \"nth\".")
+              .arg(found.size())
+              .arg(TemplateNumber(place))
+              .arg(number));
     }
     all << controls;
   }

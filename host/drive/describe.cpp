@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSlider>
+#include <algorithm>
 
 #include "host/drive/control_finder.h"
 #include "host/drive/window_stack.h"
@@ -17,9 +18,7 @@
 
 namespace {
 
-QJsonArray ToArray(const QRect& rect) {
-  return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
+QJsonArray ToArray(const QRect& rect) { return {rect.x(), rect.y(), rect.width(), rect.height()}; }
 
 QJsonArray ToArray(const QStringList& texts) { return QJsonArray::fromStringList(texts); }
 
@@ -45,8 +44,11 @@ QJsonObject DescribeDialog(const QWidget* dialog) {
 }
 
 QJsonObject DescribeMessage(const QMessageBox& box) {
+  QList<QAbstractButton*> shown = box.buttons();
+  std::sort(shown.begin(), shown.end(),
+            [](const QWidget* a, const QWidget* b) { return a->x() < b->x(); });
   QStringList buttons;
-  for (const QAbstractButton* button : box.buttons()) buttons << PlainText(button->text());
+  for (const QAbstractButton* button : shown) buttons << PlainText(button->text());
   return {{"kind", "message"},
           {"title", box.windowTitle()},
           {"text", box.text().replace("\r\n", "\n")},
@@ -82,7 +84,8 @@ void DescribeEdit(const QWidget& control, QJsonObject& description) {
   const auto* lines = qobject_cast<const QPlainTextEdit*>(&control);
   const auto* line = qobject_cast<const QLineEdit*>(&control);
   description["multiline"] = lines != nullptr;
-  description["readonly"] = lines != nullptr ? lines->isReadOnly() : line != nullptr && line->isReadOnly();
+  description["readonly"] =
+      lines != nullptr ? lines->isReadOnly() : line != nullptr && line->isReadOnly();
 }
 
 // The fields that only controls of some kinds have.

@@ -16,8 +16,8 @@ namespace {
 bool WriteAll(const QByteArray& bytes) {
   qsizetype done = 0;
   while (done < bytes.size()) {
-    const ssize_t count =
-        write(STDOUT_FILENO, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
+    const ssize_t count = write(STDOUT_FILENO, bytes.constData() + done,
+                                static_cast<std::size_t>(bytes.size() - done));
     if (count < 0 && errno != EINTR) return false;
     if (count > 0) done += count;
   }

@@ -18,9 +18,9 @@ struct NamedKey {
   const char* name;
   const char* portable;
 };
-constexpr NamedKey kOtherNames[] = {{"Enter", "Return"},  {"Escape", "Esc"},    {"Delete", "Del"},
-                                    {"Insert", "Ins"},    {"PageUp", "PgUp"},   {"PageDown", "PgDown"},
-                                    {"Page Up", "PgUp"},  {"Page Down", "PgDown"}};
+constexpr NamedKey kOtherNames[] = {
+    {"Enter", "Return"}, {"Escape", "Esc"},      {"Delete", "Del"},   {"Insert", "Ins"},
+    {"PageUp", "PgUp"},  {"PageDown", "PgDown"}, {"Page Up", "PgUp"}, {"Page Down", "PgDown"}};
 
 struct KeyText {
   int key;
@@ -42,8 +42,8 @@ constexpr Modifier kModifiers[] = {{Qt::ShiftModifier, Qt::Key_Shift},
 void SendMouse(QWindow* window, const QPoint& place, QEvent::Type type, Qt::MouseButton button) {
   const Qt::MouseButtons held =
       type == QEvent::MouseButtonPress ? Qt::MouseButtons(button) : Qt::MouseButtons();
-  qt_handleMouseEvent(window, place, window->mapToGlobal(place), held, button, type,
-                      Qt::NoModifier, eventTime);
+  qt_handleMouseEvent(window, place, window->mapToGlobal(place), held, button, type, Qt::NoModifier,
+                      eventTime);
 }
 
 void SendKey(const QPointer<QWindow>& window, QEvent::Type type, int key,

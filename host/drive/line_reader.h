@@ -7,8 +7,8 @@
 #include <functional>
 #include <optional>
 
-/// Hands over each line without its line end, then nothing at the end of the input. A last line that
-/// has no line end counts.
+/// Hands over each line without its line end, then nothing at the end of the input. A last line
+/// that has no line end counts.
 class LineReader {
  public:
   using Take = std::function<void(std::optional<QByteArray>)>;

@@ -44,9 +44,7 @@ const std::vector<Verb>& Verbs() {
        true},
       {"slide", {{"value", Kind::Integer}}, {}, true},
       {"tree", {}},
-      {"select",
-       {{"page", Kind::Integer, false}, {"row", Kind::Integer, false}},
-       {"page", "row"}},
+      {"select", {{"page", Kind::Integer, false}, {"row", Kind::Integer, false}}, {"page", "row"}},
       {"press", {{"button", Kind::Text}}},
       {"dismiss", {}},
       {"menu", {{"command", Kind::Integer}}},
@@ -89,20 +87,28 @@ bool IsInteger(const QJsonValue& value) {
 
 bool Fits(Kind kind, const QJsonValue& value) {
   switch (kind) {
-    case Kind::Integer: return IsInteger(value);
-    case Kind::Text: return value.isString();
-    case Kind::Bool: return value.isBool();
-    case Kind::Value: return value.isBool() || value.isString() || IsInteger(value);
+    case Kind::Integer:
+      return IsInteger(value);
+    case Kind::Text:
+      return value.isString();
+    case Kind::Bool:
+      return value.isBool();
+    case Kind::Value:
+      return value.isBool() || value.isString() || IsInteger(value);
   }
   return false;
 }
 
 QString KindName(Kind kind) {
   switch (kind) {
-    case Kind::Integer: return QStringLiteral("a whole number of 32 bits");
-    case Kind::Text: return QStringLiteral("a text");
-    case Kind::Bool: return QStringLiteral("true or false");
-    case Kind::Value: return QStringLiteral("true, false, a whole number of 32 bits or a text");
+    case Kind::Integer:
+      return QStringLiteral("a whole number of 32 bits");
+    case Kind::Text:
+      return QStringLiteral("a text");
+    case Kind::Bool:
+      return QStringLiteral("true or false");
+    case Kind::Value:
+      return QStringLiteral("true, false, a whole number of 32 bits or a text");
   }
   return {};
 }
@@ -113,7 +119,8 @@ QString CheckArgument(const Request& request, const Argument& argument) {
   const QString name = QLatin1String(argument.name);
   if (!request.arguments.contains(name)) {
     if (!argument.required) return {};
-    return QStringLiteral("The verb %1 needs the argument %2.").arg(Quoted(request.verb), Quoted(name));
+    return QStringLiteral("The verb %1 needs the argument %2.")
+        .arg(Quoted(request.verb), Quoted(name));
   }
   if (Fits(argument.kind, request.arguments[name])) return {};
   return QStringLiteral("The argument %1 of the verb %2 must be %3.")
@@ -141,14 +148,16 @@ QString CheckTypedValue(const Request& request) {
   for (const auto& [type, kind] : kTypes) {
     if (request.Text("type") == QLatin1String(type)) return CheckArgument(request, {name, kind});
   }
-  return QStringLiteral("There is no value type %1; the types are \"bool\", \"int\" and \"string\".")
+  return QStringLiteral(
+             "There is no value type %1; the types are \"bool\", \"int\" and \"string\".")
       .arg(Quoted(request.Text("type")));
 }
 
 QString CheckArguments(const Request& request, const Verb& verb) {
   std::vector<Argument> known = verb.arguments;
   std::vector<const char*> oneOf = verb.oneOf;
-  if (verb.addressesControl) known.insert(known.end(), kControlArguments.begin(), kControlArguments.end());
+  if (verb.addressesControl)
+    known.insert(known.end(), kControlArguments.begin(), kControlArguments.end());
   QStringList names;
   for (const Argument& argument : known) {
     names << QLatin1String(argument.name);
@@ -161,7 +170,8 @@ QString CheckArguments(const Request& request, const Verb& verb) {
   }
   if (const QString error = CheckOneOf(request, oneOf); !error.isEmpty()) return error;
   if (verb.addressesControl) {
-    if (const QString error = CheckOneOf(request, {"control", "nth"}); !error.isEmpty()) return error;
+    if (const QString error = CheckOneOf(request, {"control", "nth"}); !error.isEmpty())
+      return error;
   }
   return CheckTypedValue(request);
 }
@@ -215,7 +225,8 @@ ParsedRequest ParseRequest(const QByteArray& line) {
   if (!document.isObject()) return Refuse(QStringLiteral("The line is not a JSON object."));
   Request request{{}, document.object()};
   const QJsonValue name = request.arguments.take(QStringLiteral("do"));
-  if (!name.isString()) return Refuse(QStringLiteral("The line names no verb as the text of \"do\"."));
+  if (!name.isString())
+    return Refuse(QStringLiteral("The line names no verb as the text of \"do\"."));
   request.verb = name.toString();
   const QJsonValue wait = request.arguments.take(QStringLiteral("wait"));
   if (!wait.isUndefined() && !wait.isBool()) {

@@ -23,9 +23,10 @@ struct ParsedRequest {
   QString error;  ///< Why there is no request, as a sentence.
 };
 
-/// Reads one line without its line end. Any bytes are allowed; what is not a request gives an error.
+/// Reads one line without its line end. Any bytes are allowed; what is not a request gives an
+/// error.
 ParsedRequest ParseRequest(const QByteArray& line);
 
-/// The texts of `candidates` that are nearest to `wanted`, at most five, as "a, b or c"; "none" when
-/// there are no candidates.
+/// The texts of `candidates` that are nearest to `wanted`, at most five, as "a, b or c"; "none"
+/// when there are no candidates.
 QString NearCandidates(const QString& wanted, const QStringList& candidates);

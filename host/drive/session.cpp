@@ -1,6 +1,6 @@
 #include "host/drive/session.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEventLoop>
 #include <QThread>
 #include <QWidget>
@@ -53,7 +53,8 @@ bool Session::Run() {
 // Requests begin in an event of their own, as an action may stay inside a nested event loop for a
 // long time.
 void Session::Schedule() {
-  QMetaObject::invokeMethod(this, [this] { Next(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this] { Next(); }, Qt::QueuedConnection);
 }
 
 void Session::Next() {
@@ -115,12 +116,27 @@ void Session::Act(const Plan& plan, const std::shared_ptr<Pending>& pending) {
 // An action that has opened no event loop of its own is still at work, whatever the queue says.
 void Session::OnIdle() {
   if (ending_) {
-    QMetaObject::invokeMethod(this, [this] { GoOnEnding(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { GoOnEnding(); }, Qt::QueuedConnection);
     return;
   }
   if (pending_ == nullptr) return idle_.Stop();
   if (pending_->delayed || (pending_->acting && LoopLevel() <= pending_->level)) return;
+  if (!pending_->activated && ActivateTop()) {
+    pending_->activated = true;
+    return;
+  }
   Answer();
+}
+
+// Off screen no window manager gives the focus back to a window when one in front of it closes.
+bool Session::ActivateTop() const {
+  QWidget* top = windows_.Top();
+  if (top == nullptr || top->isActiveWindow() || QApplication::activePopupWidget() != nullptr) {
+    return false;
+  }
+  top->activateWindow();
+  return true;
 }
 
 void Session::Answer() {

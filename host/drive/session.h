@@ -18,8 +18,8 @@
 
 class QEventLoop;
 
-/// Carries out one request after the other and answers each when the event queue is idle again. Lives
-/// in the event loop of Run, inside which the dialogs have their own.
+/// Carries out one request after the other and answers each when the event queue is idle again.
+/// Lives in the event loop of Run, inside which the dialogs have their own.
 class Session : public QObject {
  public:
   /// `write` gets every reply and event, in order.
@@ -37,9 +37,10 @@ class Session : public QObject {
   struct Pending {
     std::function<QJsonObject()> finish;
     QString error;
-    int level = 0;        // Depth of event loops in which the action was begun.
-    bool acting = true;   // The action has not returned.
+    int level = 0;       // Depth of event loops in which the action was begun.
+    bool acting = true;  // The action has not returned.
     bool delayed = false;
+    bool activated = false;  // The top window was given the focus once.
   };
 
   void Schedule();
@@ -48,6 +49,7 @@ class Session : public QObject {
   void CarryOut(const Request& request);
   void Act(const Plan& plan, const std::shared_ptr<Pending>& pending);
   void OnIdle();
+  bool ActivateTop() const;
   void Answer();
   void Write(QJsonObject fields);
   void WriteError(const QString& error);

@@ -30,7 +30,8 @@ QJsonValue ReadStore(const Stores& stores, const Request& request) {
   const QJsonValue otherwise = request.arguments["default"];
   if (otherwise.isBool()) return store.ReadBool(section, key, otherwise.toBool());
   if (otherwise.isDouble()) return store.ReadInt(section, key, otherwise.toInt());
-  return QString::fromStdWString(store.ReadString(section, key, otherwise.toString().toStdWString()));
+  return QString::fromStdWString(
+      store.ReadString(section, key, otherwise.toString().toStdWString()));
 }
 
 void WriteStore(const Stores& stores, const Request& request) {

@@ -2,7 +2,6 @@
 
 #include <QJsonArray>
 
-#include "host/drive/control_actions.h"
 #include "host/drive/control_finder.h"
 #include "host/drive/describe.h"
 #include "host/drive/input.h"
@@ -17,16 +16,6 @@ struct Node {
   QTreeWidgetItem* item;
   int level;
 };
-
-QTreeWidget& FindTree(const WindowStack& windows) {
-  QWidget* dialog = TopDialog(windows);
-  QList<QTreeWidget*> trees;
-  for (QWidget* control : ControlsOf(dialog)) {
-    if (auto* tree = qobject_cast<QTreeWidget*>(control)) trees << tree;
-  }
-  if (trees.size() == 1) return *trees.front();
-  throw RequestError(QStringLiteral("%1 has %2 trees.").arg(NameWindow(dialog)).arg(trees.size()));
-}
 
 void Collect(QTreeWidgetItem* item, int level, QList<Node>& nodes) {
   nodes << Node{item, level};
@@ -61,9 +50,9 @@ QTreeWidgetItem* SelectedItem(const QTreeWidget& tree) {
   return selected.isEmpty() ? nullptr : selected.front();
 }
 
-void ClickNode(const WindowStack& windows, QTreeWidget& tree, QTreeWidgetItem* item) {
-  CheckUsable(windows, &tree);
-  for (const QTreeWidgetItem* parent = item->parent(); parent != nullptr; parent = parent->parent()) {
+void ClickNode(QTreeWidget& tree, QTreeWidgetItem* item) {
+  for (const QTreeWidgetItem* parent = item->parent(); parent != nullptr;
+       parent = parent->parent()) {
     if (parent->isExpanded()) continue;
     throw RequestError(QStringLiteral("The node \"%1\" is inside the collapsed node \"%2\".")
                            .arg(item->text(0), parent->text(0)));
@@ -74,8 +63,17 @@ void ClickNode(const WindowStack& windows, QTreeWidget& tree, QTreeWidgetItem* i
 
 }  // namespace
 
-QJsonObject DescribeTree(const WindowStack& windows) {
-  const QTreeWidget& tree = FindTree(windows);
+QTreeWidget& FindTree(const WindowStack& windows) {
+  QWidget* dialog = TopDialog(windows);
+  QList<QTreeWidget*> trees;
+  for (QWidget* control : ControlsOf(dialog)) {
+    if (auto* tree = qobject_cast<QTreeWidget*>(control)) trees << tree;
+  }
+  if (trees.size() == 1) return *trees.front();
+  throw RequestError(QStringLiteral("%1 has %2 trees.").arg(NameWindow(dialog)).arg(trees.size()));
+}
+
+QJsonObject DescribeTree(const QTreeWidget& tree) {
   const QList<Node> nodes = NodesOf(tree);
   QJsonArray descriptions;
   for (int row = 0; row < nodes.size(); ++row) {
@@ -85,11 +83,10 @@ QJsonObject DescribeTree(const WindowStack& windows) {
   return {{"imageSize", tree.iconSize().width()}, {"rowHeight", height}, {"nodes", descriptions}};
 }
 
-void SelectPage(const WindowStack& windows, int page) {
-  QTreeWidget& tree = FindTree(windows);
+void SelectPage(QTreeWidget& tree, int page) {
   QStringList pages;
   for (const Node& node : NodesOf(tree)) {
-    if (PageOf(node.item) == page) return ClickNode(windows, tree, node.item);
+    if (PageOf(node.item) == page) return ClickNode(tree, node.item);
     pages << QString::number(PageOf(node.item));
   }
   throw RequestError(QStringLiteral("No node of the tree has the page %1; the pages are %2.")
@@ -97,16 +94,14 @@ void SelectPage(const WindowStack& windows, int page) {
                          .arg(pages.join(QStringLiteral(", "))));
 }
 
-void SelectRow(const WindowStack& windows, int row) {
-  QTreeWidget& tree = FindTree(windows);
+void SelectRow(QTreeWidget& tree, int row) {
   const QList<Node> nodes = NodesOf(tree);
-  if (row >= 0 && row < nodes.size()) return ClickNode(windows, tree, nodes[row].item);
+  if (row >= 0 && row < nodes.size()) return ClickNode(tree, nodes[row].item);
   throw RequestError(
       QStringLiteral("There is no row %1 in the tree; it has %2 rows.").arg(row).arg(nodes.size()));
 }
 
-int SelectedRow(const WindowStack& windows) {
-  const QTreeWidget& tree = FindTree(windows);
+int SelectedRow(const QTreeWidget& tree) {
   const QTreeWidgetItem* selected = SelectedItem(tree);
   const QList<Node> nodes = NodesOf(tree);
   for (int row = 0; row < nodes.size(); ++row) {

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QTreeWidget>
 #include <QWidget>
 
 #include "host/drive/control_actions.h"
@@ -75,12 +76,13 @@ Plan OnControl(Context& context, const Request& request, Action action) {
   return {[control, action] { action(control); }, {}};
 }
 
-Plan Click(Context& context, const Request& request) { return OnControl(context, request, ClickControl); }
+Plan Click(Context& context, const Request& request) {
+  return OnControl(context, request, ClickControl);
+}
 
 Plan Type(Context& context, const Request& request) {
-  return OnControl(context, request, [text = request.Text("text")](QWidget* control) {
-    TypeInto(control, text);
-  });
+  return OnControl(context, request,
+                   [text = request.Text("text")](QWidget* control) { TypeInto(control, text); });
 }
 
 Plan Pick(Context& context, const Request& request) {
@@ -96,19 +98,23 @@ Plan Slide(Context& context, const Request& request) {
                    [value = request.Int("value")](QWidget* control) { SlideTo(control, value); });
 }
 
-Plan Tree(Context& context, const Request&) { return Reply(DescribeTree(context.windows)); }
+Plan Tree(Context& context, const Request&) {
+  return Reply(DescribeTree(FindTree(context.windows)));
+}
 
 Plan Select(Context& context, const Request& request) {
-  SelectedRow(context.windows);
-  return {[&context, request] {
+  // The click may open a message box or end the dialog.
+  const QPointer<QTreeWidget> tree = &FindTree(context.windows);
+  CheckUsable(context.windows, tree);
+  return {[tree, request] {
             if (request.Has("page")) {
-              SelectPage(context.windows, request.Int("page"));
+              SelectPage(*tree, request.Int("page"));
             } else {
-              SelectRow(context.windows, request.Int("row"));
+              SelectRow(*tree, request.Int("row"));
             }
           },
-          [&context] {
-            return QJsonObject{{"selected", SelectedRow(context.windows)}};
+          [tree] {
+            return QJsonObject{{"selected", tree != nullptr ? SelectedRow(*tree) : -1}};
           }};
 }
 
@@ -121,10 +127,9 @@ Plan DismissTop(Context& context, const Request&) {
 }
 
 Plan Menu(Context& context, const Request& request) {
-  return {[&context, command = request.Int("command")] {
-            ChooseFromMenu(context.windows, command);
-          },
-          {}};
+  return {
+      [&context, command = request.Int("command")] { ChooseFromMenu(context.windows, command); },
+      {}};
 }
 
 Plan Key(Context& context, const Request& request) {
@@ -198,12 +203,12 @@ struct Verb {
 };
 
 constexpr Verb kVerbs[] = {
-    {"open", Open},         {"windows", Windows}, {"controls", Controls}, {"get", Get},
-    {"click", Click},       {"type", Type},       {"pick", Pick},         {"slide", Slide},
-    {"tree", Tree},         {"select", Select},   {"press", Press},       {"dismiss", DismissTop},
-    {"menu", Menu},         {"key", Key},         {"resize", Resize},     {"shot", Shot},
-    {"ok", Ok},             {"cancel", Cancel},   {"read", Read},         {"write", Write},
-    {"dump", Dump},         {"log", Log},         {"clipboard", Clipboard}, {"wait", Wait},
+    {"open", Open},   {"windows", Windows}, {"controls", Controls},   {"get", Get},
+    {"click", Click}, {"type", Type},       {"pick", Pick},           {"slide", Slide},
+    {"tree", Tree},   {"select", Select},   {"press", Press},         {"dismiss", DismissTop},
+    {"menu", Menu},   {"key", Key},         {"resize", Resize},       {"shot", Shot},
+    {"ok", Ok},       {"cancel", Cancel},   {"read", Read},           {"write", Write},
+    {"dump", Dump},   {"log", Log},         {"clipboard", Clipboard}, {"wait", Wait},
 };
 
 }  // namespace

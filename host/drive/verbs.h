@@ -22,8 +22,8 @@ struct DriveContext {
 
 /// How a request is carried out.
 struct Plan {
-  /// What a person does; empty for a request that only looks or works on the stores. May only return
-  /// when the windows that it opened are closed again. May throw RequestError.
+  /// What a person does; empty for a request that only looks or works on the stores. May only
+  /// return when the windows that it opened are closed again. May throw RequestError.
   std::function<void()> act;
   /// The fields of the reply beside "ok", made when the event queue is idle again. May throw
   /// RequestError. Empty when there are none.

@@ -58,7 +58,8 @@ void ChooseFromMenu(const WindowStack& windows, int command) {
     commands << QString::number(action->data().toInt());
     if (action->data().toInt() != command) continue;
     if (!action->isEnabled()) {
-      throw RequestError(QStringLiteral("A person cannot choose command %1: it is disabled.").arg(command));
+      throw RequestError(
+          QStringLiteral("A person cannot choose command %1: it is disabled.").arg(command));
     }
     return ClickAt(&menu, menu.actionGeometry(action).center());
   }

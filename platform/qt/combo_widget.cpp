@@ -68,14 +68,33 @@ void ComboWidget::Highlight(int row) {
 }
 
 bool ComboWidget::eventFilter(QObject* object, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && object == view()) {
-    if (OnListKey(static_cast<QKeyEvent*>(event)->key())) return true;
-  } else if (event->type() == QEvent::FocusOut && object == view()) {
-    OnListFocusOut();
-  } else if (event->type() == QEvent::Hide && object == view()->window()) {
+  if (object == view()) {
+    switch (event->type()) {
+      case QEvent::ShortcutOverride:
+        // The toolkit would close the list now, before anybody was offered the key.
+        event->accept();
+        return true;
+      case QEvent::KeyPress:
+        if (OnListKey(static_cast<QKeyEvent&>(*event))) return true;
+        break;
+      case QEvent::FocusOut:
+        OnListFocusOut();
+        break;
+      default:
+        break;
+    }
+  } else if (object == view()->window() && event->type() == QEvent::Hide) {
     if (auto* peer = PeerOf<ComboPeer>(this)) peer->OnClosed();
   }
   return QComboBox::eventFilter(object, event);
+}
+
+void ComboWidget::focusOutEvent(QFocusEvent* event) {
+  const auto* peer = PeerOf<ComboPeer>(this);
+  if (peer == nullptr || !peer->Dropped()) return QComboBox::focusOutEvent(event);
+  // The list only borrows the focus; the selection in the edit part stays.
+  QFocusEvent borrowed(QEvent::FocusOut, Qt::PopupFocusReason);
+  QComboBox::focusOutEvent(&borrowed);
 }
 
 void ComboWidget::changeEvent(QEvent* event) {
@@ -99,13 +118,20 @@ void ComboWidget::WatchList() {
   view()->window()->installEventFilter(this);
 }
 
-bool ComboWidget::OnListKey(int key) {
+bool ComboWidget::OnListKey(const QKeyEvent& event) {
   auto* peer = PeerOf<ComboPeer>(this);
-  const UINT virtualKey = VirtualKey(key);
-  if (peer == nullptr || virtualKey == 0) return false;
-  if (PreTranslateKey(peer->handle, virtualKey)) return true;
-  if (virtualKey != VK_RETURN || view()->currentIndex().isValid()) return false;
+  if (peer == nullptr) return true;
+  const HWND window = peer->handle;
+  const UINT key = VirtualKey(event.key());
+  if (key != 0 && PreTranslateKey(window, key)) return true;
+  const bool alternate = (event.modifiers() & Qt::AltModifier) != 0;
+  const bool accepts =
+      key == VK_RETURN || key == VK_F4 || (alternate && (key == VK_UP || key == VK_DOWN));
+  if (!accepts && key != VK_ESCAPE) return false;
+  const int row = view()->currentIndex().row();
   hidePopup();
+  peer = FindPeerAs<ComboPeer>(window);
+  if (accepts && row >= 0 && peer != nullptr) peer->ChooseRow(row);
   return true;
 }
 

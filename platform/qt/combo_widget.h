@@ -19,11 +19,12 @@ class ComboWidget final : public QComboBox {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void initStyleOption(QStyleOptionComboBox* option) const override;
 
  private:
   void WatchList();
-  bool OnListKey(int key);
+  bool OnListKey(const QKeyEvent& event);
   void OnListFocusOut();
 
   int listWidth_ = 0;

@@ -79,8 +79,10 @@ class DialogBuilder {
     peer.order = child ? static_cast<int>(parent->children.size()) : 0;
     MeasureUnits(peer);
     const QRect place = DialogPixels(peer, source_.x, source_.y, source_.cx, source_.cy);
-    if (child) peer.widget->setGeometry(place);
-    else peer.widget->resize(place.size());
+    if (child)
+      peer.widget->setGeometry(place);
+    else
+      peer.widget->resize(place.size());
     if (child) peer.widget->hide();
     ApplyState(peer);
     const HWND window = RegisterPeer(std::move(made));

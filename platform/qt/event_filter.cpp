@@ -55,10 +55,15 @@ bool OnActivate(const Peer& peer) {
   return false;
 }
 
-/// The modal window above has gone. It hands its activity on to the window below, also where no
-/// window manager does that.
+/// The modal window above is going. It hands its activity on to the window below, also where no
+/// window manager sees to that. Not before it has gone: its end takes the activity from all windows.
 bool OnUnblocked(const Peer& peer) {
-  if (QApplication::activeWindow() != nullptr) peer.widget->activateWindow();
+  if (!IsDialog(peer) || QApplication::activeWindow() == nullptr) return false;
+  QWidget* window = peer.widget->window();
+  const auto activate = [window] {
+    if (QApplication::activeWindow() == nullptr) window->activateWindow();
+  };
+  QMetaObject::invokeMethod(window, activate, Qt::QueuedConnection);
   return false;
 }
 
@@ -156,18 +161,30 @@ class EventFilter : public QObject {
 
   static bool Handle(Peer& peer, QEvent& event) {
     switch (event.type()) {
-      case QEvent::Resize: return OnResize(peer);
-      case QEvent::WindowStateChange: return OnStateChange(peer);
-      case QEvent::WindowActivate: return OnActivate(peer);
-      case QEvent::WindowUnblocked: return OnUnblocked(peer);
-      case QEvent::Close: return OnClose(peer, event);
-      case QEvent::FocusIn: return SendBesideEvent(peer, WM_SETFOCUS);
-      case QEvent::FocusOut: return OnFocusOut(peer, static_cast<QFocusEvent&>(event));
-      case QEvent::KeyPress: return OnKeyPress(peer, static_cast<QKeyEvent&>(event));
-      case QEvent::Paint: return OnPaint(peer);
-      case QEvent::ToolTip: return OnToolTip(peer, static_cast<QHelpEvent&>(event));
-      case QEvent::ContextMenu: return OnContextMenu(peer, static_cast<QContextMenuEvent&>(event));
-      default: return false;
+      case QEvent::Resize:
+        return OnResize(peer);
+      case QEvent::WindowStateChange:
+        return OnStateChange(peer);
+      case QEvent::WindowActivate:
+        return OnActivate(peer);
+      case QEvent::WindowUnblocked:
+        return OnUnblocked(peer);
+      case QEvent::Close:
+        return OnClose(peer, event);
+      case QEvent::FocusIn:
+        return SendBesideEvent(peer, WM_SETFOCUS);
+      case QEvent::FocusOut:
+        return OnFocusOut(peer, static_cast<QFocusEvent&>(event));
+      case QEvent::KeyPress:
+        return OnKeyPress(peer, static_cast<QKeyEvent&>(event));
+      case QEvent::Paint:
+        return OnPaint(peer);
+      case QEvent::ToolTip:
+        return OnToolTip(peer, static_cast<QHelpEvent&>(event));
+      case QEvent::ContextMenu:
+        return OnContextMenu(peer, static_cast<QContextMenuEvent&>(event));
+      default:
+        return false;
     }
   }
 };

@@ -10,5 +10,6 @@ void InstallEventFilter(QWidget& widget);
 /// Tells a dialog its client size (WM_SIZE).
 void SendSizeMessage(const Peer& peer);
 
-/// The top-level dialog that was the active window last, while it is shown; null when there is none.
+/// The top-level dialog that was the active window last, while it is shown; null when there is
+/// none.
 HWND LastActiveDialog();

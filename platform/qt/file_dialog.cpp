@@ -3,10 +3,10 @@
 #include <QAbstractItemView>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QScreen>
-#include <cerrno>
 
 #include "platform/machine.h"
 #include "platform/path_map.h"
@@ -16,7 +16,8 @@ namespace {
 
 DWORD lastPickerError = 0;
 
-/// The toolkit's picker with what it does not offer by itself: several folders.
+/// The toolkit's picker with what it does not offer by itself: several folders. Their names stand
+/// in quotes in the field of names.
 class Picker : public QFileDialog {
  public:
   using QFileDialog::QFileDialog;
@@ -28,25 +29,45 @@ class Picker : public QFileDialog {
         view->setSelectionMode(QAbstractItemView::ExtendedSelection);
       }
     }
+    names_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   }
 
-  /// The toolkit looks at the first folder alone.
+  QStringList Picked() const { return folders_.isEmpty() ? selectedFiles() : folders_; }
+
+  /// The toolkit looks at the first folder alone, and drops the typed ones that it does not show.
   void accept() override {
-    if (fileMode() == Directory) {
-      for (const QString& folder : selectedFiles()) {
-        if (!QFileInfo(folder).isDir()) return ReportMissing(folder);
-      }
+    if (names_ == nullptr || !names_->text().contains('"')) return QFileDialog::accept();
+    const QStringList folders = QuotedFolders();
+    for (const QString& folder : folders) {
+      if (!QFileInfo(folder).isDir()) return ReportMissing(folder);
     }
-    QFileDialog::accept();
+    folders_ = folders;
+    if (!folders_.isEmpty()) QDialog::accept();
   }
 
  private:
+  /// Clicked folders are known by themselves, since their names may hold quotes too.
+  QStringList QuotedFolders() const {
+    QStringList clicked = selectedFiles();
+    QStringList shown;
+    for (const QString& path : clicked) shown += '"' + QFileInfo(path).fileName() + '"';
+    if (names_->text() == shown.join(' ')) return clicked;
+    QStringList folders;
+    const QStringList parts = names_->text().split('"');
+    for (qsizetype i = 1; i < parts.size(); i += 2)
+      folders += directory().absoluteFilePath(parts[i]);
+    return folders;
+  }
+
   void ReportMissing(const QString& folder) {
     QMessageBox::warning(this, windowTitle(),
                          tr("%1\nDirectory not found.\nPlease verify the correct directory name "
                             "was given.")
                              .arg(folder));
   }
+
+  QLineEdit* names_ = nullptr;  ///< Only where several folders may be picked.
+  QStringList folders_;
 };
 
 /// "Sounds|*.wav;*.ogg||" as {"Sounds (*.wav *.ogg)"}.
@@ -136,7 +157,7 @@ INT_PTR CFileDialog::DoModal() {
   const int result = dialog->exec();
   if (dialog == nullptr) return IDCANCEL;
   if (result == QDialog::Accepted) {
-    for (const QString& path : dialog->selectedFiles()) picked_.push_back(FromQt(path));
+    for (const QString& path : dialog->Picked()) picked_.push_back(FromQt(path));
   }
   dialog->deleteLater();
   lastPickerError = CheckPicked();

@@ -76,11 +76,9 @@ void ModalRun::WindowGone(HWND window) {
 }
 
 INT_PTR ModalRun::Execute(UINT templateId, CWnd* parent) {
-  const HWND owner = OwnerOf(parent);
-  window_ = MakeDialogWindow(*dialog_, templateId, owner, DialogUse::Modal);
+  window_ = MakeDialogWindow(*dialog_, templateId, OwnerOf(parent), DialogUse::Modal);
   Loop();
   Finish();
-  if (const Peer* peer = FindPeer(owner)) peer->widget->activateWindow();
   if (exception_) std::rethrow_exception(exception_);
   return result_;
 }

@@ -12,22 +12,38 @@ namespace {
 
 const char* KindText(ControlKind kind) {
   switch (kind) {
-    case ControlKind::Dialog: return "dialog";
-    case ControlKind::Label: return "label";
-    case ControlKind::Separator: return "separator";
-    case ControlKind::Picture: return "picture";
-    case ControlKind::Frame: return "frame";
-    case ControlKind::Check: return "check";
-    case ControlKind::Radio: return "radio";
-    case ControlKind::Push: return "push";
-    case ControlKind::Image: return "image";
-    case ControlKind::Colour: return "colour";
-    case ControlKind::Edit: return "edit";
-    case ControlKind::Combo: return "combo";
-    case ControlKind::ListBox: return "listbox";
-    case ControlKind::List: return "list";
-    case ControlKind::Tree: return "tree";
-    case ControlKind::Slider: return "slider";
+    case ControlKind::Dialog:
+      return "dialog";
+    case ControlKind::Label:
+      return "label";
+    case ControlKind::Separator:
+      return "separator";
+    case ControlKind::Picture:
+      return "picture";
+    case ControlKind::Frame:
+      return "frame";
+    case ControlKind::Check:
+      return "check";
+    case ControlKind::Radio:
+      return "radio";
+    case ControlKind::Push:
+      return "push";
+    case ControlKind::Image:
+      return "image";
+    case ControlKind::Colour:
+      return "colour";
+    case ControlKind::Edit:
+      return "edit";
+    case ControlKind::Combo:
+      return "combo";
+    case ControlKind::ListBox:
+      return "listbox";
+    case ControlKind::List:
+      return "list";
+    case ControlKind::Tree:
+      return "tree";
+    case ControlKind::Slider:
+      return "slider";
   }
   return "";
 }

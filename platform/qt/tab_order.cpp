@@ -60,7 +60,8 @@ const Peer* TopDialog(HWND window) {
   return peer;
 }
 
-/// Tab stops at the checked button of a group alone; while none is checked, where the template says.
+/// Tab stops at the checked button of a group alone; while none is checked, where the template
+/// says.
 void StopAtChecked(QButtonGroup& group) {
   for (QAbstractButton* button : group.buttons()) {
     const Peer* peer = FindPeer(button);

@@ -34,8 +34,9 @@ void PlaceChild(QWidget& widget, QPoint at, QSize size, UINT flags) {
 }
 
 QSize ToQtSize(const POINT& point) {
-  return QSize(point.x, point.y).expandedTo(QSize(0, 0)).boundedTo(
-      QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+  return QSize(point.x, point.y)
+      .expandedTo(QSize(0, 0))
+      .boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
 }
 
 int Clamp(int position, int length, int first, int available) {

@@ -4,8 +4,8 @@
 
 #include "platform/qt/peer.h"
 
-/// Moves and resizes as SetWindowPos does: a top-level dialog in screen coordinates, any other window
-/// in the client coordinates of its parent.
+/// Moves and resizes as SetWindowPos does: a top-level dialog in screen coordinates, any other
+/// window in the client coordinates of its parent.
 void PlaceWindow(Peer& peer, int x, int y, int cx, int cy, UINT flags);
 
 /// The part of a window inside its frame and scroll bars.

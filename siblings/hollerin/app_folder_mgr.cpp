@@ -21,8 +21,8 @@ bool IsSeparator(wchar_t character, bool windows) {
   return character == L'/' || (windows && character == L'\\');
 }
 
-/// The length of the text "%NAME%" at the start of `text`; 0 when there is none. A percent sign that
-/// begins no such text, as in the name "100%", stands for itself.
+/// The length of the text "%NAME%" at the start of `text`; 0 when there is none. A percent sign
+/// that begins no such text, as in the name "100%", stands for itself.
 std::size_t PlaceholderLength(std::wstring_view text) {
   if (!text.starts_with(L'%')) return 0;
   const std::size_t end = text.find_first_not_of(kPlaceholderLetters, 1);
@@ -58,7 +58,8 @@ class CAppFolderMgr : public IAppFolderMgr {
  public:
   explicit CAppFolderMgr(Folders folders) : folders_(std::move(folders)) {
     // A placeholder without a folder would lead to the root.
-    std::erase_if(folders_, [](const auto& row) { return row.first.empty() || row.second.empty(); });
+    std::erase_if(folders_,
+                  [](const auto& row) { return row.first.empty() || row.second.empty(); });
   }
 
   HRESULT Reserved1() override { return E_NOTIMPL; }

@@ -1,7 +1,8 @@
 #pragma once
 
 // Makes the manager of the application's folders. It knows "%CONFIG%", "%DATA%", "%CACHE%",
-// "%TEMP%" and "%DOCUMENTS%", the user's folders of these kinds, unless the machine dictates others.
+// "%TEMP%" and "%DOCUMENTS%", the user's folders of these kinds, unless the machine dictates
+// others.
 
 #include "ifc/app_folder_mgr.h"
 

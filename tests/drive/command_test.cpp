@@ -108,6 +108,40 @@ TEST(Commands, HelpNamesEveryCommandAndStatus) {
   }
 }
 
+std::size_t CountPictures(const std::string& folder) {
+  std::size_t count = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    count += ReadFile(entry.path()).substr(1, 3) == "PNG" ? 1 : 0;
+  }
+  return count;
+}
+
+TEST(Commands, WithoutADisplayConfigChangesOneValueAndSaysSo) {
+  const TemporaryFolder data;
+  const std::string before = RunHost(data, {"list"}).output;
+  const Finished finished = RunHost(data, {"config", "--pictures", data / "seen"});
+  EXPECT_EQ(finished.status, 0) << finished.errors;
+  EXPECT_TRUE(Mentions(finished.output, data / "config.xml"));
+  EXPECT_TRUE(Mentions(finished.output, "Options/ShowHitCount: false -> true"));
+  EXPECT_GE(CountPictures(data / "seen"), 5U);
+  EXPECT_EQ(RunHost(data, {"get", "config", "Options", "ShowHitCount"}).output, "true\n");
+  EXPECT_NE(RunHost(data, {"list"}).output, before);
+}
+
+TEST(Commands, TheTourChangesNothingAndFollowsTheResolution) {
+  const TemporaryFolder data;
+  const std::string before = RunHost(data, {"list"}).output;
+  for (const char* dpi : {"96", "192"}) {
+    const Finished finished = RunHost(data, {"tour", data / dpi, "--dpi", dpi});
+    EXPECT_EQ(finished.status, 0) << finished.errors;
+    EXPECT_TRUE(std::filesystem::exists(data / dpi + "/main-27-search.png"));
+    EXPECT_TRUE(std::filesystem::exists(data / dpi + "/message.png"));
+  }
+  EXPECT_EQ(CountPictures(data / "96"), CountPictures(data / "192"));
+  EXPECT_NE(ReadFile(data / "96/main-27-search.png"), ReadFile(data / "192/main-27-search.png"));
+  EXPECT_EQ(RunHost(data, {"list"}).output, before);
+}
+
 TEST(MachineFile, WrongFactsAreNamed) {
   const TemporaryFolder data;
   const struct {

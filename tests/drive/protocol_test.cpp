@@ -32,15 +32,21 @@ TEST(Protocol, BadLinesAreRefusedByNameAndChangeNothing) {
       {R"({"do":"click","control":1})", "No window"},
       {R"({"do":"get","control":1,"template":5526})", "5526"},
       {R"({"do":"pick","control":1})", "exactly one"},
-      {R"({"do":"write","store":"confg","section":"Options","key":"Kept","type":"int","value":8})",
+      {R"({"do":"write",)"
+       R"("store":"confg","section":"Options","key":"Kept","type":"int","value":8})",
        "\"config\""},
-      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"long","value":8})",
+      {R"({"do":"write",)"
+       R"("store":"config","section":"Options","key":"Kept","type":"long","value":8})",
        "\"long\""},
-      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"int","value":"8"})",
+      {R"({"do":"write",)"
+       R"("store":"config","section":"Options","key":"Kept","type":"int","value":"8"})",
        "whole number"},
-      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"bool","value":1})",
+      {R"({"do":"write",)"
+       R"("store":"config","section":"Options","key":"Kept","type":"bool","value":1})",
        "true or false"},
-      {R"({"do":"write","store":"config","section":"Options","key":"Kept","type":"int"})", "\"value\""},
+      {R"({"do":"write",)"
+       R"("store":"config","section":"Options","key":"Kept","type":"int"})",
+       "\"value\""},
       {R"({"do":"press","button":"OK"})", "No window"},
       {R"({"do":"dismiss"})", "No window"},
   };
@@ -91,8 +97,9 @@ TEST(Protocol, WrittenValuesReachTheNextRun) {
 TEST(Protocol, EveryRequestOfABatchIsAnsweredInOrder) {
   const TemporaryFolder data;
   Session session(data);
-  const Json reply = session.Send(std::string(
-      "{\"do\":\"wait\",\"ms\":1}\n{\"do\":\"bad\"}\n{\"do\":\"clipboard\"}\n{\"do\":\"dump\",\"store\":\"fourth\"}"));
+  const Json reply =
+      session.Send(std::string("{\"do\":\"wait\",\"ms\":1}\n{\"do\":\"bad\"}\n{\"do\":"
+                               "\"clipboard\"}\n{\"do\":\"dump\",\"store\":\"fourth\"}"));
   EXPECT_EQ(reply, Json({{"ok", true}}));
   // The three replies left are read one request late; the last three are these requests' own.
   EXPECT_EQ(session.Send(std::string("{\"do\":\"windows\"}"))["ok"], false);
@@ -138,6 +145,34 @@ TEST(Protocol, OnlyOneDialogAtATime) {
   ASSERT_EQ(events.size(), 1U);
   EXPECT_EQ(events[0], Json({{"event", "returned"}, {"entry", "ShowMessage"}, {"status", 0}}));
   EXPECT_TRUE(session.Top().is_null());
+}
+
+TEST(Protocol, AnActionThatIsNotWaitedForIsAnsweredAtOnce) {
+  const TemporaryFolder data;
+  Session session(data);
+  const Json open = {{"do", "open"}, {"entry", "OpenConfigDialog"}, {"wait", false}};
+  EXPECT_EQ(session.Send(open), Json({{"ok", true}}));
+  session.Do({{"do", "wait"}, {"ms", 0}});
+  ASSERT_EQ(session.Top()["kind"], "dialog");
+  EXPECT_EQ(session.Send(Json{{"do", "cancel"}, {"wait", false}}), Json({{"ok", true}}));
+  session.Do({{"do", "wait"}, {"ms", 0}});
+  EXPECT_EQ(session.TakeEvents().size(), 1U);
+  EXPECT_NE(session.Refused({{"do", "cancel"}, {"wait", false}}).find("No window"),
+            std::string::npos);
+}
+
+TEST(Protocol, TheMessageIsCopiedAndShot) {
+  const TemporaryFolder data;
+  Session session(data);
+  session.Do({{"do", "open"}, {"entry", "ShowMessage"}});
+  EXPECT_EQ(session.Get(5041)["readonly"], true);
+  session.Type(5041, "lost");
+  EXPECT_EQ(session.Get(5041)["text"], "Testing");
+  session.Click(5334);
+  EXPECT_EQ(session.Do({{"do", "clipboard"}})["text"], "Testing");
+  session.Do({{"do", "shot"}, {"file", data / "shot.png"}});
+  EXPECT_EQ(ReadFile(data / "shot.png").substr(1, 3), "PNG");
+  session.Refused({{"do", "shot"}, {"file", data / "none/shot.png"}});
 }
 
 }  // namespace

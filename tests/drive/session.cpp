@@ -41,7 +41,8 @@ int Spawn(const std::vector<std::string>& arguments, int input, int output, int 
   posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
   if (errors >= 0) posix_spawn_file_actions_adddup2(&actions, errors, STDERR_FILENO);
   std::vector<char*> words;
-  for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
+  for (const std::string& argument : arguments)
+    words.push_back(const_cast<char*>(argument.c_str()));
   words.push_back(nullptr);
   int process = -1;
   const int failed = posix_spawn(&process, words[0], &actions, nullptr, words.data(), environ);
@@ -160,7 +161,12 @@ std::vector<Json> Session::TakeEvents() { return std::exchange(events_, {}); }
 void Session::Write(const std::string& store, const std::string& section, const std::string& key,
                     const Json& value) {
   const char* type = value.is_boolean() ? "bool" : value.is_string() ? "string" : "int";
-  Do({{"do", "write"}, {"store", store}, {"section", section}, {"key", key}, {"type", type}, {"value", value}});
+  Do({{"do", "write"},
+      {"store", store},
+      {"section", section},
+      {"key", key},
+      {"type", type},
+      {"value", value}});
 }
 
 Json Session::Top() {

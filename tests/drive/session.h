@@ -62,13 +62,16 @@ class Session {
   std::vector<Json> TakeEvents();
 
   // Shorter forms of what tests do most.
-  Json Open(int page = 4) { return Do({{"do", "open"}, {"entry", "OpenConfigDialog"}, {"page", page}}); }
+  Json Open(int page = 4) {
+    return Do({{"do", "open"}, {"entry", "OpenConfigDialog"}, {"page", page}});
+  }
   Json Get(int control) { return Do({{"do", "get"}, {"control", control}}); }
   void Click(int control) { Do({{"do", "click"}, {"control", control}}); }
   void Type(int control, const std::string& text) {
     Do({{"do", "type"}, {"control", control}, {"text", text}});
   }
-  void Write(const std::string& store, const std::string& section, const std::string& key, const Json& value);
+  void Write(const std::string& store, const std::string& section, const std::string& key,
+             const Json& value);
   Json Dump(const std::string& store) { return Do({{"do", "dump"}, {"store", store}})["values"]; }
   /// The top window's description; null when none is open.
   Json Top();

@@ -70,9 +70,12 @@ TEST(PathTexts, RootsEndInASeparator) {
 
 TEST(PathTexts, LongPathPrefixesAreStripped) {
   const TextRow rows[] = {
-      {LR"(\\?\UNC\srv\sh\x)", LR"(\\srv\sh\x)"}, {LR"(\\?\D:\x)", LR"(D:\x)"},
-      {LR"(\\?\UNC)", LR"(UNC)"},                 {LR"(\\srv\sh)", LR"(\\srv\sh)"},
-      {LR"(C:\\?\x)", LR"(C:\\?\x)"},             {L"/a\\\\?\\b", L"/a\\\\?\\b"},
+      {LR"(\\?\UNC\srv\sh\x)", LR"(\\srv\sh\x)"},
+      {LR"(\\?\D:\x)", LR"(D:\x)"},
+      {LR"(\\?\UNC)", LR"(UNC)"},
+      {LR"(\\srv\sh)", LR"(\\srv\sh)"},
+      {LR"(C:\\?\x)", LR"(C:\\?\x)"},
+      {L"/a\\\\?\\b", L"/a\\\\?\\b"},
       {L"", L""},
   };
   for (const auto& row : rows) {
@@ -82,8 +85,9 @@ TEST(PathTexts, LongPathPrefixesAreStripped) {
 
 TEST(PathTexts, SeparatorsFollowTheStyle) {
   const TextRow rows[] = {
-      {LR"(C:\dir)", LR"(C:\dir\)"}, {LR"(C:\)", LR"(C:\)"}, {L"/tmp", L"/tmp/"},
-      {L"/", L"/"},                  {L"/a\\", L"/a\\/"},    {L"", L""},
+      {LR"(C:\dir)", LR"(C:\dir\)"}, {LR"(C:\)", LR"(C:\)"},
+      {L"/tmp", L"/tmp/"},           {L"/", L"/"},
+      {L"/a\\", L"/a\\/"},           {L"", L""},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(WithSeparator(row.path), row.expected) << ToUtf8(row.path);
@@ -187,14 +191,10 @@ TEST_F(Paths, FoldersAreTheSameByWhatTheyAre) {
     std::wstring first, second;
     bool same;
   } rows[] = {
-      {LR"(C:\Data)", LR"(c:\DATA\)", true},
-      {LR"(C:\Data)", LR"(\\?\C:\data)", true},
-      {LR"(C:\Data)", Wide("c/Data/"), true},
-      {Wide("link"), Wide("c/Data/Sub/.."), true},
-      {LR"(C:\Data)", LR"(C:\data2)", false},
-      {Wide("c/Data"), Wide("c/data"), false},
-      {LR"(C:\Data)", LR"(C:\missing)", false},
-      {L"", L"", false},
+      {LR"(C:\Data)", LR"(c:\DATA\)", true},    {LR"(C:\Data)", LR"(\\?\C:\data)", true},
+      {LR"(C:\Data)", Wide("c/Data/"), true},   {Wide("link"), Wide("c/Data/Sub/.."), true},
+      {LR"(C:\Data)", LR"(C:\data2)", false},   {Wide("c/Data"), Wide("c/data"), false},
+      {LR"(C:\Data)", LR"(C:\missing)", false}, {L"", L"", false},
   };
   const auto messages = AnswerMessages([&] {
     for (const auto& row : rows) {

@@ -152,8 +152,8 @@ inline INT_PTR RunModal(CDialog& dialog, std::deque<std::function<void()>> actio
     }
     const std::function<void()> action = actions.front();
     actions.pop_front();
-    QTimer::singleShot(0, &context, step);
     action();
+    QTimer::singleShot(0, &context, step);
   };
   QTimer::singleShot(0, &context, step);
   return dialog.DoModal();

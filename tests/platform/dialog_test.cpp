@@ -12,6 +12,7 @@
 #include "dialog_script.h"
 #include "platform/application.h"
 #include "platform/exceptions.h"
+#include "platform/message_box.h"
 
 namespace {
 
@@ -217,6 +218,46 @@ TEST(Dialog, UnwindsNestedRuns) {
   outer.onOther = [&] { RunModal(inner, {[&] { outer.DestroyWindow(); }}); };
   EXPECT_EQ(RunModal(outer, {click}), -1);
   EXPECT_EQ(inner.m_hWnd, nullptr);
+}
+
+TEST(Dialog, EndsTheMessageBoxAboveItWithAnException) {
+  const TestModule module({{500, kItems}});
+  ThrowingDialog dialog(500);
+  bool boxOpen = false, boxReturned = false;
+  dialog.onOther = [&] {
+    if (boxOpen) throw std::runtime_error("below the box");
+    boxOpen = true;
+    dialog.PostMessage(WM_APP + 1);
+    MessageBoxW(dialog.m_hWnd, L"text", L"caption", MB_YESNO);
+    boxReturned = true;
+  };
+  const auto click = [&] { QTest::mouseClick(ControlWidget(dialog, 101), Qt::LeftButton); };
+  EXPECT_EQ(What([&] { RunModal(dialog, {click}); }), "below the box");
+  EXPECT_TRUE(boxReturned);
+}
+
+TEST(Dialog, ReportsAnExceptionThatNoRunCanTake) {
+  const TestModule module({{500, kItems}});
+  ThrowingDialog dialog(500);
+  dialog.onOther = [] { throw std::runtime_error("nobody listens"); };
+  ASSERT_TRUE(dialog.Create(500, nullptr));
+  testing::internal::CaptureStderr();
+  QTest::mouseClick(ControlWidget(dialog, 101), Qt::LeftButton);
+  EXPECT_NE(testing::internal::GetCapturedStderr().find("nobody listens"), std::string::npos);
+  EXPECT_TRUE(IsWindow(dialog.m_hWnd));
+}
+
+TEST(Dialog, GivesTheFocusBackToTheWindowBelow) {
+  const TestModule module({{500, kItems}});
+  ThrowingDialog outer(500), inner(500, &outer);
+  const auto settle = [] { ToolkitApplication::ProcessEvents(); };
+  RunModal(outer,
+           {settle,
+            [&] {
+              outer.GetDlgItem(101)->SetFocus();
+              RunModal(inner, {settle});
+            },
+            settle, [&] { EXPECT_EQ(QApplication::focusWidget(), ControlWidget(outer, 101)); }});
 }
 
 TEST(Dialog, SurvivesBeingDestroyedInItsOwnMessage) {

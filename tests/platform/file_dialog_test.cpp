@@ -40,7 +40,7 @@ TEST_F(FileDialog, ProposesAFileAndFiltersByThePatterns) {
 
 TEST_F(FileDialog, SeveralFoldersAreTypedInQuotes) {
   PickerDriver driver([&](QFileDialog& picker) {
-    PickerDriver::Type(picker, '"' + Path("one") + "\" \"two\"\n");
+    PickerDriver::Type(picker, '"' + Path("one") + "\" \"two\" \"/\"\n");
   });
   CFolderPickerDialog dialog(folder_.path().toStdWString().c_str(), OFN_ALLOWMULTISELECT);
   ASSERT_EQ(dialog.DoModal(), IDOK);
@@ -48,7 +48,21 @@ TEST_F(FileDialog, SeveralFoldersAreTypedInQuotes) {
   for (POSITION place = dialog.GetStartPosition(); place != 0;) {
     picked.push_back(dialog.GetNextPathName(place).Str());
   }
-  EXPECT_EQ(picked, (std::vector{Wide("one"), Wide("two")}));
+  EXPECT_EQ(picked, (std::vector<std::wstring>{Wide("one"), Wide("two"), L"/"}));
+}
+
+TEST_F(FileDialog, SeveralFoldersAreClicked) {
+  QDir(folder_.path()).mkdir("q\"q");
+  PickerDriver driver([](QFileDialog& picker) {
+    PickerDriver::ClickInList(picker, {"q\"q", "two"});
+    QTest::keyClick(picker.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+  });
+  CFolderPickerDialog dialog(folder_.path().toStdWString().c_str(), OFN_ALLOWMULTISELECT);
+  ASSERT_EQ(dialog.DoModal(), IDOK);
+  POSITION place = dialog.GetStartPosition();
+  EXPECT_EQ(dialog.GetNextPathName(place).Str(), Wide("q\"q"));
+  EXPECT_EQ(dialog.GetNextPathName(place).Str(), Wide("two"));
+  EXPECT_EQ(place, 0U);
 }
 
 TEST_F(FileDialog, AMissingFolderKeepsThePickerOpen) {

@@ -23,9 +23,10 @@ class Sound : public testing::Test {
     mkfifo(Path("device").c_str(), 0600);
     pipe_ = open(Path("device").c_str(), O_RDWR);
     std::iota(samples_.begin(), samples_.end(), short{-500});
-    Configure("pcm.silent { type null }\n"
-              "pcm.!default { type file slave.pcm silent format raw file \"" +
-              Path("device") + "\" }\n");
+    Configure(
+        "pcm.silent { type null }\n"
+        "pcm.!default { type file slave.pcm silent format raw file \"" +
+        Path("device") + "\" }\n");
   }
   ~Sound() override {
     close(pipe_);
@@ -84,7 +85,9 @@ TEST_F(Sound, EverySampleIsPlayed) {
     ASSERT_TRUE(PlaySoundW(Wide(row.name), kFlags)) << row.name;
     const auto played = Played();
     ASSERT_EQ(played.size(), samples_.size()) << row.name;
-    if (row.exact) EXPECT_EQ(played, samples_) << row.name;
+    if (row.exact) {
+      EXPECT_EQ(played, samples_) << row.name;
+    }
   }
 }
 

@@ -7,6 +7,7 @@
 #include <QFileSystemModel>
 #include <QLineEdit>
 #include <QListView>
+#include <QPointer>
 #include <QtTest/QTest>
 #include <functional>
 
@@ -18,9 +19,12 @@ class PickerDriver : public QObject {
 
   bool eventFilter(QObject* object, QEvent* event) override {
     auto* picker = qobject_cast<QFileDialog*>(object);
-    if (picker != nullptr && event->type() == QEvent::Show) {
+    // The picker reads its field of names only while that has the focus.
+    if (picker != nullptr && picker != used_ && event->type() == QEvent::WindowActivate) {
+      used_ = picker;
       ++shown;
-      QMetaObject::invokeMethod(picker, [this, picker] { use_(*picker); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          picker, [this, picker] { use_(*picker); }, Qt::QueuedConnection);
     }
     return false;
   }
@@ -28,6 +32,7 @@ class PickerDriver : public QObject {
   /// Types into the field of names; "\n" confirms.
   static void Type(QFileDialog& picker, const QString& text) {
     auto* field = picker.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    QTest::mouseClick(field, Qt::LeftButton);
     field->clear();
     for (const QChar character : text) {
       if (character == '\n') {
@@ -63,4 +68,5 @@ class PickerDriver : public QObject {
 
  private:
   Use use_;
+  QPointer<QFileDialog> used_;
 };

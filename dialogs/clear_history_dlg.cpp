@@ -42,9 +42,7 @@ END_MESSAGE_MAP()
 
 CClearHistoryDlg::CClearHistoryDlg(CClearHistorySettings& settings,
                                    std::shared_ptr<INTERNAL_IFC::IConfigDataMgr> history)
-    : CBaseTranslateDialog(IDD_CLEAR_HISTORY),
-      history_(std::move(history)),
-      settings_(settings) {}
+    : CBaseTranslateDialog(IDD_CLEAR_HISTORY), history_(std::move(history)), settings_(settings) {}
 
 BOOL CClearHistoryDlg::OnInitDialog() {
   CBaseTranslateDialog::OnInitDialog();

@@ -23,8 +23,7 @@ constexpr Geometry::ControlConstraint kLayout[] = {
 constexpr int kSeparator = -1;
 
 /// The rows of the list. The history of script engines is not offered.
-constexpr int kRows[] = {1, 2,  0,  kSeparator, 5,  8, 9, 6, 7,
-                         4, 11, 12, kSeparator, 10, 13};
+constexpr int kRows[] = {1, 2, 0, kSeparator, 5, 8, 9, 6, 7, 4, 11, 12, kSeparator, 10, 13};
 
 CString JoinLines(const std::vector<CString>& entries) {
   std::wstring text;

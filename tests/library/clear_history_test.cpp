@@ -26,8 +26,8 @@ class ClearHistoryTest : public testing::Test {
   BRISQUEL::Status Run(std::function<void()> act, CClearHistorySettings* given) {
     const Person person(IDD_CLEAR_HISTORY, std::move(act));
     BRISQUEL::Status status = -1;
-    messages = AnswerMessages(
-        [&] { status = BRISQUEL::OpenClearHistoryDialog(nullptr, given, history); });
+    messages =
+        AnswerMessages([&] { status = BRISQUEL::OpenClearHistoryDialog(nullptr, given, history); });
     return status;
   }
   BRISQUEL::Status Run(std::function<void()> act) { return Run(std::move(act), &settings); }

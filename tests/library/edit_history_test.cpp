@@ -71,7 +71,8 @@ class EditHistoryTest : public testing::Test {
 
 TEST(HistoryCategories, HaveASectionAndAName) {
   const auto language = std::make_shared<FakeLanguage>();
-  for (const unsigned number : {318U, 322U, 345U, 445U, 634U, 649U, 797U, 903U, 923U, 1065U, 1066U, 1067U}) {
+  for (const unsigned number :
+       {318U, 322U, 345U, 445U, 634U, 649U, 797U, 903U, 923U, 1065U, 1066U, 1067U}) {
     language->strings[number] = L"s" + std::to_wstring(number);
   }
   language->placeholders = {{{140, 8}, L"d8"}, {{140, 19}, L"d19"}};
@@ -103,27 +104,27 @@ TEST(HistoryCategories, HaveASectionAndAName) {
 
 TEST_F(EditHistoryTest, ShowsTheHistoriesInTheirOrder) {
   Process().uiLink = nullptr;
-  EXPECT_EQ(Run([] {
-              QStringList rows;
-              for (int row = 0; row < List().count(); ++row) rows << List().item(row)->text();
-              QStringList names;
-              for (const int number : {1, 2, 0, -1, 5, 8, 9, 6, 7, 4, 11, 12, -1, 10, 13}) {
-                names << (number < 0 ? QString()
-                                     : QString::fromStdWString(HistoryName(number).Str()));
-              }
-              EXPECT_EQ(rows, names);
-              EXPECT_EQ(List().currentRow(), 0);
-              EXPECT_EQ(Shown(), "*.txt\n*.cpp");
-              EXPECT_EQ(List().accessibleName(), "Histories");
-              EXPECT_EQ(Edit().accessibleName(), "File name");
-              EXPECT_FALSE(WidgetOf(IDD_EDIT_HISTORY, IDOK)->window()->windowTitle().isEmpty());
-              List().setFocus();
-              QTest::keyClick(&List(), Qt::Key_Tab);
-              EXPECT_TRUE(HasFocus(IDD_EDIT_HISTORY, IDC_HISTORY_EDIT));
-              QTest::keyClick(&Edit(), Qt::Key_Tab);
-              EXPECT_TRUE(HasFocus(IDD_EDIT_HISTORY, IDOK));
-            }),
-            1);
+  EXPECT_EQ(
+      Run([] {
+        QStringList rows;
+        for (int row = 0; row < List().count(); ++row) rows << List().item(row)->text();
+        QStringList names;
+        for (const int number : {1, 2, 0, -1, 5, 8, 9, 6, 7, 4, 11, 12, -1, 10, 13}) {
+          names << (number < 0 ? QString() : QString::fromStdWString(HistoryName(number).Str()));
+        }
+        EXPECT_EQ(rows, names);
+        EXPECT_EQ(List().currentRow(), 0);
+        EXPECT_EQ(Shown(), "*.txt\n*.cpp");
+        EXPECT_EQ(List().accessibleName(), "Histories");
+        EXPECT_EQ(Edit().accessibleName(), "File name");
+        EXPECT_FALSE(WidgetOf(IDD_EDIT_HISTORY, IDOK)->window()->windowTitle().isEmpty());
+        List().setFocus();
+        QTest::keyClick(&List(), Qt::Key_Tab);
+        EXPECT_TRUE(HasFocus(IDD_EDIT_HISTORY, IDC_HISTORY_EDIT));
+        QTest::keyClick(&Edit(), Qt::Key_Tab);
+        EXPECT_TRUE(HasFocus(IDD_EDIT_HISTORY, IDOK));
+      }),
+      1);
   EXPECT_NE(Process().uiLink, nullptr);
 }
 
@@ -131,7 +132,8 @@ TEST_F(EditHistoryTest, StoresWhenTheHistoryChangesAndOnOk) {
   EXPECT_EQ(Run([] {
               Replace("new\n*.txt\n\nnew\n");
               ClickRow(2);
-              EXPECT_EQ(Edit().document()->toRawText(), QString::fromUtf16(u"/home\u2029a\u00A0b\u2029/tmp"));
+              EXPECT_EQ(Edit().document()->toRawText(),
+                        QString::fromUtf16(u"/home\u2029a\u00A0b\u2029/tmp"));
               ClickRow(0);
               EXPECT_EQ(Shown(), "new\n*.txt");
               // A separator stores the history shown and leaves it there.

@@ -38,7 +38,8 @@ class HistoryStore : public RecordingStore {
 /// afterwards gets Escape.
 class Person : public QObject {
  public:
-  Person(UINT templateId, std::function<void()> act) : name_(QString::number(templateId)), act_(act) {
+  Person(UINT templateId, std::function<void()> act)
+      : name_(QString::number(templateId)), act_(act) {
     qApp->installEventFilter(this);
   }
   ~Person() override { EXPECT_TRUE(acted_) << "no dialog " << name_.toStdString(); }

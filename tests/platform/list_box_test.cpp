@@ -120,8 +120,8 @@ TEST(ListBox, NamesAndPlacesOfControlsMadeAtRunTime) {
 TEST(MultiLineEdit, KeepsEveryCharacterOfItsText) {
   const TestModule module(kDialogs);
   ListDialog dialog(500);
-  CWnd* edit = CWnd::FromHandle(CreateWindowChild(
-      L"Edit", L"", kStop | ES_MULTILINE | WS_HSCROLL, CRect(0, 0, 90, 90), &dialog, kEdit));
+  CWnd* edit = CWnd::FromHandle(CreateWindowChild(L"Edit", L"", kStop | ES_MULTILINE | WS_HSCROLL,
+                                                  CRect(0, 0, 90, 90), &dialog, kEdit));
   EXPECT_EQ(static_cast<QPlainTextEdit*>(WidgetOf(edit->m_hWnd))->lineWrapMode(),
             QPlainTextEdit::NoWrap);
   // A blank that does not break, and a line separator inside an entry.

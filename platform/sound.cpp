@@ -79,7 +79,7 @@ void PlayOut(snd_pcm_t* device, const std::atomic<bool>& stop) {
 }
 
 /// The thread that plays. `begun` learns whether the sound has a device.
-void Play(SoundFile file, SF_INFO format, StopFlag stop, std::promise<bool> begun) {
+void Play(SoundFile file, SF_INFO format, const StopFlag& stop, std::promise<bool> begun) {
   const Device device = OpenDevice(format);
   begun.set_value(device != nullptr);
   if (device == nullptr) return;

@@ -56,9 +56,11 @@ bool OnActivate(const Peer& peer) {
 }
 
 /// The modal window above is going. It hands its activity on to the window below, also where no
-/// window manager sees to that. Not before it has gone: its end takes the activity from all windows.
+/// window manager sees to that. Not before it has gone: its end takes the activity from all
+/// windows.
 bool OnUnblocked(const Peer& peer) {
-  if (!IsDialog(peer) || QApplication::activeWindow() == nullptr) return false;
+  const bool active = QGuiApplication::applicationState() == Qt::ApplicationActive;
+  if (!IsDialog(peer) || !active) return false;
   QWidget* window = peer.widget->window();
   const auto activate = [window] {
     if (QApplication::activeWindow() == nullptr) window->activateWindow();
@@ -129,14 +131,17 @@ bool OnContextMenu(Peer& peer, QContextMenuEvent& event) {
   return handled;
 }
 
+/// The events of one window. Every geometry change of every control passes here, so that what
+/// concerns nobody is sorted out before anything is looked up.
 class EventFilter : public QObject {
  public:
-  using QObject::QObject;
+  explicit EventFilter(Peer& peer) : peer_(peer) {}
 
-  bool eventFilter(QObject* object, QEvent* event) override {
+  bool eventFilter(QObject*, QEvent* event) override {
     if (!IsInteresting(event->type())) return false;
-    Peer* peer = FindPeer(static_cast<QWidget*>(object));
-    return peer != nullptr && peer->widget != nullptr && Handle(*peer, *event);
+    if (event->type() == QEvent::Resize && peer_.attached == nullptr) return false;
+    const bool alive = FindPeer(peer_.handle) == &peer_ && peer_.widget != nullptr;
+    return alive && Handle(peer_, *event);
   }
 
  private:
@@ -187,18 +192,21 @@ class EventFilter : public QObject {
         return false;
     }
   }
+
+  Peer& peer_;
 };
 
 }  // namespace
 
-void InstallEventFilter(QWidget& widget) {
-  // Belongs to the application object, and is made anew for the next one.
-  static QPointer<EventFilter> filter;
-  if (filter == nullptr) {
-    filter = new EventFilter(QCoreApplication::instance());
+void InstallEventFilter(Peer& peer) {
+  // The next application object ends its windows anew.
+  static QPointer<QObject> application;
+  if (application != QCoreApplication::instance()) {
+    application = QCoreApplication::instance();
     qAddPostRoutine(DestroyAllWindows);
   }
-  widget.installEventFilter(filter);
+  peer.events = std::make_unique<EventFilter>(peer);
+  peer.widget->installEventFilter(peer.events.get());
 }
 
 void SendSizeMessage(const Peer& peer) {

@@ -4,8 +4,8 @@
 
 #include "platform/qt/peer.h"
 
-/// Lets the events of a registered widget become messages to its window.
-void InstallEventFilter(QWidget& widget);
+/// Lets the events of the widget become messages to its window, for as long as the window lives.
+void InstallEventFilter(Peer& peer);
 
 /// Tells a dialog its client size (WM_SIZE).
 void SendSizeMessage(const Peer& peer);

@@ -42,7 +42,7 @@ class Picker : public QFileDialog {
       if (!QFileInfo(folder).isDir()) return ReportMissing(folder);
     }
     folders_ = folders;
-    if (!folders_.isEmpty()) QDialog::accept();
+    if (!folders_.isEmpty()) done(Accepted);
   }
 
  private:
@@ -179,7 +179,7 @@ CString CFileDialog::GetPathName() const { return picked_.empty() ? CString() : 
 
 CString CFileDialog::GetNextPathName(POSITION& position) const {
   if (position == 0 || position > picked_.size()) return {};
-  const CString path = picked_[position - 1];
+  CString path = picked_[position - 1];
   position = position < picked_.size() ? position + 1 : 0;
   return path;
 }

@@ -82,7 +82,7 @@ HWND RegisterPeer(std::unique_ptr<Peer> peer) {
   const HWND window = WindowTable::Get().Add(std::move(peer));
   if (Peer* parent = FindPeer(entered.parent)) parent->children.push_back({window, entered.id});
   Describe(entered);
-  InstallEventFilter(*entered.widget);
+  InstallEventFilter(entered);
   QObject::connect(entered.widget, &QObject::destroyed, [window] { ForgetWindow(window); });
   return window;
 }
@@ -131,12 +131,14 @@ LRESULT SendFromToolkit(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 }
 
 LRESULT NotifyCommand(const Peer& peer, UINT code) {
+  if (FindPeer(peer.handle) != &peer) return 0;
   return SendFromToolkit(peer.parent, WM_COMMAND,
                          static_cast<WPARAM>(static_cast<DWORD>(MAKELPARAM(peer.id, code))),
                          reinterpret_cast<LPARAM>(peer.handle));
 }
 
 LRESULT NotifyParent(const Peer& peer, NMHDR& header, UINT code) {
+  if (FindPeer(peer.handle) != &peer) return 0;
   header = {peer.handle, static_cast<UINT_PTR>(peer.id), code};
   return SendFromToolkit(peer.parent, WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
 }

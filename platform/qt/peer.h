@@ -66,6 +66,7 @@ struct Peer {
   bool exchanging = false;             ///< Inside UpdateData; the notifications of controls rest.
   bool destroying = false;
   bool defaultReached = false;  ///< WM_PAINT or WM_CONTEXTMENU is left to the widget.
+  std::unique_ptr<QObject> events;  ///< Makes messages of the widget's events.
 
   /// The window's own behaviour, last resort of every message. An override hands what it does not
   /// know to this one.
@@ -123,9 +124,10 @@ bool GuardToolkitCall(Call&& call) {
 /// The window may be gone afterwards.
 LRESULT SendFromToolkit(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-/// Sends WM_COMMAND with that notification code to the control's parent. Guarded.
+/// Sends WM_COMMAND with that notification code to the control's parent. Guarded. A control that
+/// was destroyed sends nothing any more.
 LRESULT NotifyCommand(const Peer& peer, UINT code);
-/// Fills the header and sends WM_NOTIFY to the control's parent. Guarded.
+/// Fills the header and sends WM_NOTIFY to the control's parent, likewise.
 LRESULT NotifyParent(const Peer& peer, NMHDR& header, UINT code);
 
 /// A control class' object for a window that has none of its own, for as long as it lives; the

@@ -30,7 +30,8 @@ Status ShowMessage(HWND) {
 }  // namespace BRISQUEL
 
 const BRISQUEL::EntryPoints* BrisquelEntryPoints() {
-  static constexpr BRISQUEL::EntryPoints kEntryPoints = {&BRISQUEL::OpenConfigDialog,
-                                                         &BRISQUEL::ShowMessage};
+  static constexpr BRISQUEL::EntryPoints kEntryPoints = {
+      &BRISQUEL::OpenConfigDialog, &BRISQUEL::ShowMessage, &BRISQUEL::OpenClearHistoryDialog,
+      &BRISQUEL::OpenEditHistoryDialog};
   return &kEntryPoints;
 }

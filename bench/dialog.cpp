@@ -154,8 +154,8 @@ struct Plan {
 
 QWidget* ShownPage(const QWidget& dialog) {
   for (QWidget* child : dialog.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-    const bool isPage = child->property("templateNumber").isValid() &&
-                        !child->property("controlNumber").isValid();
+    const QVariant number = child->property("templateNumber");
+    const bool isPage = number.isValid() && number != dialog.property("templateNumber");
     if (isPage && child->isVisible()) return child;
   }
   return nullptr;

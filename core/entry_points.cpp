@@ -31,6 +31,8 @@ Status ShowMessage(HWND) {
 
 const BRISQUEL::EntryPoints* BrisquelEntryPoints() {
   static constexpr BRISQUEL::EntryPoints kEntryPoints = {&BRISQUEL::OpenConfigDialog,
-                                                         &BRISQUEL::ShowMessage};
+                                                         &BRISQUEL::ShowMessage,
+                                                         &BRISQUEL::OpenClearHistoryDialog,
+                                                         &BRISQUEL::OpenEditHistoryDialog};
   return &kEntryPoints;
 }

@@ -16,6 +16,8 @@ struct Command {
 constexpr Command kCommands[] = {
     {"config", "", 0, 0, " --page --pictures ", "open the settings; the default command"},
     {"message", "", 0, 0, " --pictures ", "show the test message"},
+    {"clear-history", "", 0, 0, " --pictures ", "clear histories at once"},
+    {"edit-history", "", 0, 0, " --pictures ", "edit histories as text"},
     {"get", "STORE SECTION KEY", 3, 3, "", "print a value"},
     {"set", "STORE SECTION KEY VALUE", 4, 4, " --type ", "store a value"},
     {"list", "[STORE]", 0, 1, "", "print all values: store, section, key, type, value"},
@@ -62,7 +64,7 @@ constexpr Option kOptions[] = {
      "config: number of the page to show first (default: 4)"},
     {"--pictures", "DIR", "a folder", false,
      [](Arguments& to, const QString& value) { return SetText(to.pictures, value); },
-     "config, message: without a display, folder of the pictures\n"
+     "dialogs: without a display, folder of the pictures\n"
      "                   (default: pictures in the data folder)"},
     {"--type", "TYPE", "\"bool\", \"int\" or \"string\"", false,
      [](Arguments& to, const QString& value) {
@@ -173,9 +175,9 @@ QString HelpText() {
   text += QStringLiteral(
       "STORE is config, master, history or fourth. A value that begins with a dash goes behind "
       "--.\n"
-      "Without a display, config and message work off screen and write pictures; config also "
-      "changes\n"
-      "one setting, saves it and says what was written where.\n"
+      "Without a display, the commands that open a dialog work off screen and write pictures; "
+      "config\n"
+      "also changes one setting, saves it and says what was written where.\n"
       "\nOptions:\n");
   for (const Option& option : kOptions) {
     const QString call = QStringLiteral("%1 %2").arg(option.name, option.operand);

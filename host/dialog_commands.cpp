@@ -23,6 +23,10 @@ int Show(Environment& environment, const QString& entry) {
   return result.status == 0 ? kExitDone : kExitNotConfirmed;
 }
 
+int ShowOrPicture(Environment& environment, const QString& entry) {
+  return HasDisplay() ? Show(environment, entry) : RunUnseenDialog(environment, entry);
+}
+
 }  // namespace
 
 int RunConfig(Environment& environment) {
@@ -31,6 +35,13 @@ int RunConfig(Environment& environment) {
 }
 
 int RunMessage(Environment& environment) {
-  if (!HasDisplay()) return RunUnseenMessage(environment);
-  return Show(environment, QStringLiteral("ShowMessage"));
+  return ShowOrPicture(environment, QStringLiteral("ShowMessage"));
+}
+
+int RunClearHistory(Environment& environment) {
+  return ShowOrPicture(environment, QStringLiteral("OpenClearHistoryDialog"));
+}
+
+int RunEditHistory(Environment& environment) {
+  return ShowOrPicture(environment, QStringLiteral("OpenEditHistoryDialog"));
 }

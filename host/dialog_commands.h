@@ -6,3 +6,5 @@ class Environment;
 
 int RunConfig(Environment& environment);
 int RunMessage(Environment& environment);
+int RunClearHistory(Environment& environment);
+int RunEditHistory(Environment& environment);

@@ -26,10 +26,16 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
-    {"config", RunConfig, Display::Person},  {"message", RunMessage, Display::Person},
-    {"get", RunGet, Display::None},          {"set", RunSet, Display::None},
-    {"list", RunList, Display::None},        {"export", RunExport, Display::None},
-    {"import", RunImport, Display::None},    {"tour", RunTour, Display::OffScreen},
+    {"config", RunConfig, Display::Person},
+    {"message", RunMessage, Display::Person},
+    {"clear-history", RunClearHistory, Display::Person},
+    {"edit-history", RunEditHistory, Display::Person},
+    {"get", RunGet, Display::None},
+    {"set", RunSet, Display::None},
+    {"list", RunList, Display::None},
+    {"export", RunExport, Display::None},
+    {"import", RunImport, Display::None},
+    {"tour", RunTour, Display::OffScreen},
     {"drive", RunDrive, Display::OffScreen},
 };
 

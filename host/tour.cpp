@@ -105,9 +105,19 @@ class Script {
   bool failed_ = false;
 };
 
-void AddMessage(Script& script) {
-  script.Add({{"do", "open"}, {"entry", "ShowMessage"}});
-  script.AddShot(QStringLiteral("message"));
+struct Standalone {
+  const char* entry;
+  const char* picture;
+};
+
+/// The dialogs beside the main one.
+constexpr Standalone kStandalones[] = {{"ShowMessage", "message"},
+                                       {"OpenClearHistoryDialog", "clear-history"},
+                                       {"OpenEditHistoryDialog", "edit-history"}};
+
+void AddDialog(Script& script, const Standalone& dialog) {
+  script.Add({{"do", "open"}, {"entry", dialog.entry}});
+  script.AddShot(QString::fromLatin1(dialog.picture));
   script.Add({{"do", "key"}, {"key", "Escape"}});
 }
 
@@ -150,7 +160,7 @@ int RunTour(Environment& environment) {
   script.Add({{"do", "open"}, {"entry", "OpenConfigDialog"}});
   script.AddPages();
   script.Add({{"do", "cancel"}});
-  AddMessage(script);
+  for (const Standalone& dialog : kStandalones) AddDialog(script, dialog);
   const bool good = script.Play();
   PrintPictures(script, folder);
   return good ? kExitDone : kExitLibrary;
@@ -179,10 +189,12 @@ int RunUnseenConfig(Environment& environment) {
   return kExitDone;
 }
 
-int RunUnseenMessage(Environment& environment) {
+int RunUnseenDialog(Environment& environment, const QString& entry) {
   const QString folder = PictureFolder(environment);
   Script script(environment, folder);
-  AddMessage(script);
+  for (const Standalone& dialog : kStandalones) {
+    if (entry == QLatin1String(dialog.entry)) AddDialog(script, dialog);
+  }
   const bool good = script.Play();
   PrintPictures(script, folder);
   return good ? kExitDone : kExitLibrary;

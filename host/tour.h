@@ -2,6 +2,8 @@
 
 // The dialogs used without a person: pictures of all of them, and one change.
 
+#include <QString>
+
 class Environment;
 
 /// Writes a picture of every dialog and page to the folder of the command line. Nothing is changed.
@@ -12,6 +14,6 @@ int RunTour(Environment& environment);
 /// one setting, saves it and says what was written where. Returns an exit status.
 int RunUnseenConfig(Environment& environment);
 
-/// What the command "message" does without a display: writes a picture of the message. Returns an
-/// exit status.
-int RunUnseenMessage(Environment& environment);
+/// What the commands of the other dialogs do without a display: writes a picture of the dialog that
+/// the function `entry` of the settings library opens. Returns an exit status.
+int RunUnseenDialog(Environment& environment, const QString& entry);

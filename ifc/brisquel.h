@@ -10,6 +10,8 @@
 
 #include "ifc/config_data_mgr.h"
 
+class CClearHistorySettings;
+
 #define BRISQUEL_API __attribute__((visibility("default")))
 
 namespace BRISQUEL {
@@ -30,11 +32,25 @@ BRISQUEL_API Status OpenConfigDialog(HWND parent, const StoreHandle& config,
 /// Shows a message with its text ready to copy; always 0.
 BRISQUEL_API Status ShowMessage(HWND parent);
 
+/// Lets the user clear histories of `history` at once. The choice is kept in `settings` and in the
+/// store that these were made from; without settings it is not kept. After status 0 the histories
+/// are gone, and saved unless that failed, of which the user was told; after 1 nothing has changed.
+BRISQUEL_API Status OpenClearHistoryDialog(HWND parent, CClearHistorySettings* settings,
+                                           const StoreHandle& history);
+
+/// Lets the user edit the histories of `history` as text, one entry a line. Each keeps at most as
+/// many entries as "MaxDropDownHistory" in the section "Options" of `config` says. After status 0
+/// `history` holds the user's entries, not yet saved; after 1 it is as it was.
+BRISQUEL_API Status OpenEditHistoryDialog(HWND parent, const StoreHandle& history,
+                                          const StoreHandle& config);
+
 /// The exported functions for a caller that loads the library at run time.
 struct EntryPoints {
   Status (*OpenConfigDialog)(HWND, const StoreHandle&, const StoreHandle&, const StoreHandle&,
                              const StoreHandle&, int);
   Status (*ShowMessage)(HWND);
+  Status (*OpenClearHistoryDialog)(HWND, CClearHistorySettings*, const StoreHandle&);
+  Status (*OpenEditHistoryDialog)(HWND, const StoreHandle&, const StoreHandle&);
 };
 
 }  // namespace BRISQUEL

@@ -61,6 +61,7 @@ constexpr UINT VK_F4 = 0x73;
 constexpr UINT BN_CLICKED = 0;
 constexpr UINT STN_CLICKED = 0;
 constexpr UINT EN_CHANGE = 0x0300;
+constexpr UINT LBN_SELCHANGE = 1;
 constexpr UINT CBN_SELCHANGE = 1;
 constexpr UINT CBN_EDITCHANGE = 5;
 constexpr UINT CBN_DROPDOWN = 7;
@@ -109,6 +110,8 @@ constexpr DWORD SS_CENTERIMAGE = 0x0200;
 constexpr DWORD ES_MULTILINE = 0x0004;
 constexpr DWORD ES_READONLY = 0x0800;
 constexpr DWORD ES_NUMBER = 0x2000;
+
+constexpr DWORD LBS_NOTIFY = 0x0001;
 
 constexpr DWORD CBS_SIMPLE = 1;
 constexpr DWORD CBS_DROPDOWN = 2;

@@ -59,6 +59,9 @@ class CWnd : public CCmdTarget {
   void ScreenToClient(CRect& rect) const;
   void MoveWindow(const CRect& rect);
   BOOL SetWindowPos(int x, int y, int cx, int cy, UINT flags);
+  /// The same, and unless SWP_NOZORDER is given the control comes right after its sibling `after`,
+  /// also in the order of the Tab key. FALSE, with nothing done, when they are no siblings.
+  BOOL SetWindowPos(const CWnd* after, int x, int y, int cx, int cy, UINT flags);
 
   DWORD GetStyle() const;
   DWORD GetExStyle() const;
@@ -118,7 +121,8 @@ BOOL IsWindow(HWND window);
 LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL PostMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-/// The direct child windows in template order; those made at run time come last.
+/// The direct child windows in template order; those made at run time come last unless they are
+/// given another place.
 std::vector<HWND> GetChildWindows(HWND parent);
 /// The rectangle of a child window in its parent's client coordinates; empty for a stale handle.
 CRect GetChildRect(HWND child);
@@ -130,6 +134,9 @@ DWORD GetWindowLong(HWND window, int index);
 std::wstring GetWindowText(HWND window);
 BOOL SetWindowText(HWND window, const std::wstring& text);
 HWND GetActiveWindow();
+/// Names the control for those who cannot see it; for one that neither its own text nor a label
+/// before it names.
+void SetAccessibleName(HWND control, const CString& name);
 /// The tooltip of a control, asked from the dialog that enabled tooltips; empty when it has none.
 std::wstring GetToolTipText(HWND control);
 

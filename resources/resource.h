@@ -13,6 +13,7 @@
 #define IDD_MESSAGE_BOX 5515
 #define IDD_EXPRESSION_GROUP 5519
 #define IDD_DOS_PAGE 5520
+#define IDD_CLEAR_HISTORY 5524
 #define IDD_MAIN_CONFIGURATION 5526
 #define IDD_GENERAL_GROUP 5533
 #define IDD_EDITOR_GROUP 5534
@@ -23,6 +24,7 @@
 #define IDD_SINGLE_PAGE 5551
 #define IDD_SEARCH_PAGE 5553
 #define IDD_MEMORY_PAGE 5556
+#define IDD_EDIT_HISTORY 5562
 
 // Images of the resource type PNG: the strips of the page tree in four sizes, and the picture of
 // the message box.
@@ -102,3 +104,15 @@
 #define IDC_HASH_BIT_3 5058
 #define IDC_HASH_BIT_0 5095
 #define IDC_HASH_HEADING 5167
+
+// Dialog that clears histories.
+#define IDC_CLEAR_LOOK_IN 5001
+#define IDC_CLEAR_CONTAINING 5002
+#define IDC_CLEAR_ALL 5004
+#define IDC_CLEAR_FILE_NAME 5005
+#define IDC_CLEAR_HISTORY 35001
+
+// Dialog that edits histories. Its edit box is made at run time, in the place of the frame.
+#define IDC_HISTORY_LIST 5326
+#define IDC_HISTORY_FRAME 5327
+#define IDC_HISTORY_EDIT 5658

@@ -1,6 +1,6 @@
 #pragma once
 
-// Numbers of the language strings that belong to no dialog.
+// Numbers of the texts that the code asks the language for.
 
 /// Arguments of the language manager's GetString.
 namespace TextId {
@@ -42,9 +42,42 @@ constexpr unsigned kColumnModified = 384;
 constexpr unsigned kColumnFileName = 445;
 constexpr unsigned kColumnRelevance = 925;
 
+// Names of histories; that of file names is the name of their column. The names of three are put
+// together of two texts each.
+constexpr unsigned kHistoryContaining = 318;
+constexpr unsigned kHistoryLookIn = 322;
+constexpr unsigned kHistoryCopyTarget = 345;
+constexpr unsigned kHistoryScriptEngine = 634;
+constexpr unsigned kHistoryCopy = 649;
+constexpr unsigned kHistoryIndex = 797;
+constexpr unsigned kHistoryList = 903;
+constexpr unsigned kHistoryIndexGroups = 923;
+constexpr unsigned kHistoryZip = 1065;
+constexpr unsigned kHistorySessions = 1066;
+constexpr unsigned kHistoryWorkspaces = 1067;
+
 constexpr unsigned kMegabytes = 417;
 
 /// Entry of a colour button that opens the full colour dialog.
 constexpr unsigned kOtherColour = 758;
+
+}  // namespace TextId
+
+/// A text of a dialog that no control of its template shows: arguments of LanguagePlaceholder.
+struct DialogText {
+  unsigned dialog;
+  int number;
+};
+
+namespace TextId {
+
+// Names of histories that dialogs of the application share; 140 is no template of this library.
+constexpr DialogText kHistoryTransform = {140, 8};
+constexpr DialogText kHistorySaveResults = {140, 19};
+
+// The dialog that edits histories: what names its list for those who cannot see it, and what its
+// edit box holds before a history is shown.
+constexpr DialogText kHistoryListName = {5562, 1};
+constexpr DialogText kHistoryEditText = {5562, 2};
 
 }  // namespace TextId

@@ -40,6 +40,12 @@
 #define ES_AUTOHSCROLL 0x80
 #define ES_READONLY 0x800
 
+// List boxes.
+#define LBS_NOTIFY 0x1
+#define LBS_OWNERDRAWFIXED 0x10
+#define LBS_HASSTRINGS 0x40
+#define LBS_NOINTEGRALHEIGHT 0x100
+
 // Combo boxes.
 #define CBS_DROPDOWNLIST 0x3
 #define CBS_OWNERDRAWFIXED 0x10

@@ -4,6 +4,7 @@
 
 #include "host/environment.h"
 #include "host/settings_library.h"
+#include "ifc/clear_history_settings.h"
 
 namespace {
 
@@ -20,6 +21,16 @@ constexpr Entry kEntries[] = {
      }},
     {"ShowMessage", [](const BRISQUEL::EntryPoints& library, const Stores&,
                        int) { return library.ShowMessage(nullptr); }},
+    {"OpenClearHistoryDialog",
+     [](const BRISQUEL::EntryPoints& library, const Stores& stores, int) {
+       CClearHistorySettings settings(stores.Handle(kConfig));
+       return library.OpenClearHistoryDialog(nullptr, &settings, stores.Handle(kHistory));
+     }},
+    {"OpenEditHistoryDialog",
+     [](const BRISQUEL::EntryPoints& library, const Stores& stores, int) {
+       return library.OpenEditHistoryDialog(nullptr, stores.Handle(kHistory),
+                                            stores.Handle(kConfig));
+     }},
 };
 
 }  // namespace

@@ -59,7 +59,8 @@ QString TextBefore(const Peer& dialog, std::size_t place) {
 
 void Name(const Peer& control, const QString& before) {
   if (control.widget == nullptr || !IsNamed(control)) return;
-  const QString own = TextIsContent(control) ? QString() : SpokenText(control);
+  QString own = ToQt(control.spokenName);
+  if (own.isEmpty() && !TextIsContent(control)) own = SpokenText(control);
   const QString& name = own.isEmpty() ? before : own;
   if (control.widget->accessibleName() != name) control.widget->setAccessibleName(name);
 }
@@ -107,4 +108,11 @@ void UpdateNamesAfter(const Peer& changed) {
     Name(*control, TextBefore(*dialog, i));
     if (NamesOthers(*control) && !SpokenText(*control).isEmpty()) return;
   }
+}
+
+void SetAccessibleName(HWND window, const CString& name) {
+  Peer* control = FindPeer(window);
+  if (control == nullptr) return;
+  control->spokenName = name.Str();
+  UpdateAccessibleName(*control);
 }

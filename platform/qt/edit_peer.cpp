@@ -97,7 +97,9 @@ class TextEditPeer final : public EditPeer {
 
   /// Lines end with carriage return and line feed.
   std::wstring Text() const override {
-    return FromQt(Edit().toPlainText().replace(QLatin1Char('\n'), QStringLiteral("\r\n")));
+    // The raw text: the plain one has blanks in the place of those that do not break.
+    QString lines = Edit().document()->toRawText();
+    return FromQt(lines.replace(QChar::ParagraphSeparator, QStringLiteral("\r\n")));
   }
   /// An edit of several lines tells nobody that it was filled.
   void SetText(const std::wstring& newText) override {

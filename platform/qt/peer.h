@@ -60,6 +60,7 @@ struct Peer {
   HWND owner = nullptr;                ///< Of a top-level dialog; it is destroyed with its owner.
   std::vector<ChildWindow> children;   ///< Direct children in template order.
   HINSTANCE module = nullptr;          ///< Current when the window was made, and in its messages.
+  std::wstring spokenName;             ///< Names the control instead of any text; may be empty.
   std::wstring text;                   ///< The text of a window whose widget shows none.
   int modalDepth = 0;                  ///< Number of modal runs when the window was made.
   bool exchanging = false;             ///< Inside UpdateData; the notifications of controls rest.

@@ -24,6 +24,8 @@ constexpr Row kConfiguration[] = {
     {L"MemMgr", L"MaxSearchMem", 500},
     {L"MemMgr", L"ReduceLines", 10000},
     {L"MemMgr", L"ReduceChars", 1000},
+    // Greatest number of entries that the histories of drop-down lists keep.
+    {L"Options", L"MaxDropDownHistory", 25},
     // Expressions.
     {L"Options", L"LikeSimilarity", 1},
     {L"Options", L"MaxNearDistance", 10},

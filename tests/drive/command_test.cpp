@@ -102,8 +102,9 @@ TEST(Commands, HelpNamesEveryCommandAndStatus) {
   const TemporaryFolder data;
   const Finished help = RunHost(data, {"list", "--help"});
   EXPECT_EQ(help.status, 0);
-  for (const char* part : {"config", "message", "get", "set", "list", "export", "import", "tour",
-                           "drive", "--data", "--machine", "--lang-dir", "Exit status"}) {
+  for (const char* part :
+       {"config", "message", "clear-history", "edit-history", "get", "set", "list", "export",
+        "import", "tour", "drive", "--data", "--machine", "--lang-dir", "Exit status"}) {
     EXPECT_TRUE(Mentions(help.output, part)) << part;
   }
 }
@@ -134,8 +135,9 @@ TEST(Commands, TheTourChangesNothingAndFollowsTheResolution) {
   for (const char* dpi : {"96", "192"}) {
     const Finished finished = RunHost(data, {"tour", data / dpi, "--dpi", dpi});
     EXPECT_EQ(finished.status, 0) << finished.errors;
-    EXPECT_TRUE(std::filesystem::exists(data / dpi + "/main-27-search.png"));
-    EXPECT_TRUE(std::filesystem::exists(data / dpi + "/message.png"));
+    for (const char* name : {"main-27-search", "message", "clear-history", "edit-history"}) {
+      EXPECT_TRUE(std::filesystem::exists(data / dpi + "/" + name + ".png")) << name;
+    }
   }
   EXPECT_EQ(CountPictures(data / "96"), CountPictures(data / "192"));
   EXPECT_NE(ReadFile(data / "96/main-27-search.png"), ReadFile(data / "192/main-27-search.png"));

@@ -36,6 +36,20 @@ std::vector<unsigned> NumbersOf(const char* header, const char* pattern) {
   return numbers;
 }
 
+/// The texts of dialogs that the code asks for itself, by dialog.
+std::map<int, std::set<int>> TextsOfTheCode() {
+  const QString text = ReadAll(SOURCE_FOLDER "/resources/text_ids.h");
+  std::map<int, std::set<int>> numbers;
+  auto matches =
+      QRegularExpression("constexpr DialogText \\w+ = \\{(\\d+), (\\d+)\\};").globalMatch(text);
+  while (matches.hasNext()) {
+    const auto match = matches.next();
+    numbers[match.captured(1).toInt()].insert(match.captured(2).toInt());
+  }
+  EXPECT_FALSE(numbers.empty());
+  return numbers;
+}
+
 /// The texts of the English language file by place and number; every number is there once.
 using Texts = std::map<int, std::map<int, QString>>;
 
@@ -110,8 +124,9 @@ class TextsTest : public testing::Test {
 };
 
 TEST_F(TextsTest, EveryPlaceholderHasATextAndEveryTextAPlaceholder) {
+  auto ofTheCode = TextsOfTheCode();
   for (const UINT id : NumbersOf("resource.h", "#define IDD_\\w+ (\\d+)")) {
-    std::set<int> placeholders;
+    std::set<int> placeholders = ofTheCode[int(id)];
     for (const auto& item : Dialog(id).items) {
       if (Placeholder(item.text) >= 0) placeholders.insert(Placeholder(item.text));
     }
@@ -132,6 +147,14 @@ TEST_F(TextsTest, MnemonicsAreUniqueOnAPageAndTheDialogAroundIt) {
 TEST_F(TextsTest, EveryNamedStringHasAText) {
   for (const unsigned number : NumbersOf("text_ids.h", "constexpr unsigned \\w+ = (\\d+);")) {
     EXPECT_EQ(texts_[kStrings].count(int(number)), 1u) << "string " << number;
+  }
+}
+
+TEST_F(TextsTest, EveryTextOfTheCodeIsThere) {
+  for (const auto& [dialog, numbers] : TextsOfTheCode()) {
+    for (const int number : numbers) {
+      EXPECT_EQ(texts_[dialog].count(number), 1u) << dialog << " text " << number;
+    }
   }
 }
 

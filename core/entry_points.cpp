@@ -30,9 +30,8 @@ Status ShowMessage(HWND) {
 }  // namespace BRISQUEL
 
 const BRISQUEL::EntryPoints* BrisquelEntryPoints() {
-  static constexpr BRISQUEL::EntryPoints kEntryPoints = {&BRISQUEL::OpenConfigDialog,
-                                                         &BRISQUEL::ShowMessage,
-                                                         &BRISQUEL::OpenClearHistoryDialog,
-                                                         &BRISQUEL::OpenEditHistoryDialog};
+  static constexpr BRISQUEL::EntryPoints kEntryPoints = {
+      &BRISQUEL::OpenConfigDialog, &BRISQUEL::ShowMessage, &BRISQUEL::OpenClearHistoryDialog,
+      &BRISQUEL::OpenEditHistoryDialog};
   return &kEntryPoints;
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Room between the image and the text, in pixels.
+/// Room between the image and the text, in pixels at 96 per inch.
 constexpr int kTextMargin = 10;
 
 }  // namespace
@@ -27,7 +27,7 @@ void CMessageBox::DoDataExchange(CDataExchange* exchange) {
 BOOL CMessageBox::OnInitDialog() {
   CBCGPDialog::OnInitDialog();
   SetDlgItemText(IDC_MESSAGE_TEXT, text_);
-  font_.CreateFontIndirect({.lfHeight = 25,
+  font_.CreateFontIndirect({.lfHeight = globalUtils.ScaleByDPI(25),
                             .lfWeight = FW_NORMAL,
                             .lfQuality = ANTIALIASED_QUALITY,
                             .lfFaceName = L"Tahoma"});
@@ -41,7 +41,7 @@ BOOL CMessageBox::OnEraseBkgnd(CDC* dc) {
     CRect client;
     GetClientRect(client);
     dc->SelectFont(font_);
-    dc->DrawText(text_, CRect(image.right + kTextMargin, image.top, client.right, image.bottom),
+    dc->DrawText(text_, CRect(image.right + globalUtils.ScaleByDPI(kTextMargin), image.top, client.right, image.bottom),
                  DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
   }
   return CBCGPDialog::OnEraseBkgnd(dc);

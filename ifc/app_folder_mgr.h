@@ -10,13 +10,14 @@
 
 namespace HOLLERIN {
 
-/// The place of every operation is fixed; those that nobody calls are reserved.
+/// The place of every operation is fixed; those that nobody calls are reserved and answer
+/// E_NOTIMPL.
 class IAppFolderMgr {
  public:
-  virtual ~IAppFolderMgr() = default;  // 0
-  virtual HRESULT Reserved1() = 0;     // 1
-  virtual HRESULT Reserved2() = 0;     // 2
-  virtual HRESULT Reserved3() = 0;     // 3
+  virtual ~IAppFolderMgr() = default;                // 0
+  virtual HRESULT Reserved1() { return E_NOTIMPL; }  // 1
+  virtual HRESULT Reserved2() { return E_NOTIMPL; }  // 2
+  virtual HRESULT Reserved3() { return E_NOTIMPL; }  // 3
   /// The path with the longest known folder at its start replaced by that folder's placeholder;
   /// only whole path components count. A path that lies in no known folder comes back unchanged.
   virtual std::wstring CollapsePath(const std::wstring& path) = 0;  // 4

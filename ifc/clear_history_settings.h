@@ -14,7 +14,8 @@ class CClearHistorySettings {
   explicit CClearHistorySettings(std::shared_ptr<INTERNAL_IFC::IConfigDataMgr> store)
       : store_(std::move(store)) {
     if (store_ == nullptr) return;
-    for (const Row& row : kRows) this->*row.flag = store_->ReadBool(kSection, row.key, this->*row.flag);
+    for (const Row& row : kRows)
+      this->*row.flag = store_->ReadBool(kSection, row.key, this->*row.flag);
   }
 
   /// Writes the flags into the store; nothing without one.

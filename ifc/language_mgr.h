@@ -15,17 +15,17 @@ constexpr std::int32_t kCommonTexts = -1;
 constexpr std::int32_t kAnyItem = -99;
 
 /// Texts returned by pointer live as long as the manager. The place of every operation is fixed;
-/// those that nobody calls are reserved.
+/// those that nobody calls are reserved and answer E_NOTIMPL.
 class ILanguageMgr {
  public:
-  virtual ~ILanguageMgr() = default;   // 0
-  virtual HRESULT Reserved1() = 0;     // 1
-  virtual HRESULT Reserved2() = 0;     // 2
-  virtual HRESULT Reserved3() = 0;     // 3
-  virtual HRESULT Reserved4() = 0;     // 4
-  virtual HRESULT Reserved5() = 0;     // 5
-  virtual HRESULT Reserved6() = 0;     // 6
-  virtual HRESULT Reserved7() = 0;     // 7
+  virtual ~ILanguageMgr() = default;                 // 0
+  virtual HRESULT Reserved1() { return E_NOTIMPL; }  // 1
+  virtual HRESULT Reserved2() { return E_NOTIMPL; }  // 2
+  virtual HRESULT Reserved3() { return E_NOTIMPL; }  // 3
+  virtual HRESULT Reserved4() { return E_NOTIMPL; }  // 4
+  virtual HRESULT Reserved5() { return E_NOTIMPL; }  // 5
+  virtual HRESULT Reserved6() { return E_NOTIMPL; }  // 6
+  virtual HRESULT Reserved7() { return E_NOTIMPL; }  // 7
   /// Replaces a text of the form "{n}" by text n of that dialog (or the common texts); any other
   /// text, and a number without text, comes back unchanged.
   virtual std::wstring TranslateText(std::int32_t dialog, const std::wstring& text,

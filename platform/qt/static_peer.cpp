@@ -6,6 +6,7 @@
 #include <QStyleOption>
 
 #include "platform/qt/control_parts.h"
+#include "platform/bcg.h"
 
 namespace {
 
@@ -113,6 +114,10 @@ void StaticPeer::SetText(const std::wstring& newText) {
 }
 
 void StaticPeer::SetPicture(const QPixmap& picture) {
-  Label().setPixmap(picture);
+  // Drawn for 96 logical pixels per inch; it grows with the texts around it.
+  const QSize size(globalUtils.ScaleByDPI(picture.width()), globalUtils.ScaleByDPI(picture.height()));
+  Label().setPixmap(size == picture.size() ? picture
+                                           : picture.scaled(size, Qt::IgnoreAspectRatio,
+                                                            Qt::SmoothTransformation));
   SetPeerKind(*this, ControlKind::Picture);
 }

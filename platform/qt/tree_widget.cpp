@@ -108,6 +108,13 @@ void TreeWidget::focusInEvent(QFocusEvent* event) {
   QTreeWidget::focusInEvent(event);
 }
 
+void TreeWidget::resizeEvent(QResizeEvent* event) {
+  // The mark of the selected row spans the tree also where all titles are shorter.
+  header()->setMinimumSectionSize(viewport()->width());
+  resizeColumnToContents(0);
+  QTreeWidget::resizeEvent(event);
+}
+
 void TreeWidget::mousePressEvent(QMouseEvent* event) {
   const QPoint place = event->position().toPoint();
   QTreeWidgetItem* item = itemAt(place);

@@ -62,9 +62,6 @@ class CAppFolderMgr : public IAppFolderMgr {
                   [](const auto& row) { return row.first.empty() || row.second.empty(); });
   }
 
-  HRESULT Reserved1() override { return E_NOTIMPL; }
-  HRESULT Reserved2() override { return E_NOTIMPL; }
-  HRESULT Reserved3() override { return E_NOTIMPL; }
 
   std::wstring CollapsePath(const std::wstring& path) override {
     if (GetMachine().Fails(L"CollapsePath")) return path;

@@ -17,13 +17,6 @@ class CLanguageMgr : public RES::ILanguageMgr {
  public:
   explicit CLanguageMgr(LanguageTexts texts) : texts_(std::move(texts)) {}
 
-  HRESULT Reserved1() override { return E_NOTIMPL; }
-  HRESULT Reserved2() override { return E_NOTIMPL; }
-  HRESULT Reserved3() override { return E_NOTIMPL; }
-  HRESULT Reserved4() override { return E_NOTIMPL; }
-  HRESULT Reserved5() override { return E_NOTIMPL; }
-  HRESULT Reserved6() override { return E_NOTIMPL; }
-  HRESULT Reserved7() override { return E_NOTIMPL; }
   std::wstring TranslateText(std::int32_t dialog, const std::wstring& text,
                              std::int32_t item) override;
   const wchar_t* GetDialogValue(std::int32_t dialog, std::int32_t selector) override;

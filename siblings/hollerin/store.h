@@ -6,41 +6,8 @@
 
 namespace HOLLERIN {
 
-/// Answers the operations that nobody calls.
-class ReservedOperations : public Store {
- public:
-  HRESULT Reserved1() override { return E_NOTIMPL; }
-  HRESULT Reserved2() override { return E_NOTIMPL; }
-  HRESULT Reserved3() override { return E_NOTIMPL; }
-  HRESULT Reserved5() override { return E_NOTIMPL; }
-  HRESULT Reserved6() override { return E_NOTIMPL; }
-  HRESULT Reserved8() override { return E_NOTIMPL; }
-  HRESULT Reserved9() override { return E_NOTIMPL; }
-  HRESULT Reserved10() override { return E_NOTIMPL; }
-  HRESULT Reserved11() override { return E_NOTIMPL; }
-  HRESULT Reserved12() override { return E_NOTIMPL; }
-  HRESULT Reserved15() override { return E_NOTIMPL; }
-  HRESULT Reserved18() override { return E_NOTIMPL; }
-  HRESULT Reserved21() override { return E_NOTIMPL; }
-  HRESULT Reserved22() override { return E_NOTIMPL; }
-  HRESULT Reserved23() override { return E_NOTIMPL; }
-  HRESULT Reserved24() override { return E_NOTIMPL; }
-  HRESULT Reserved25() override { return E_NOTIMPL; }
-  HRESULT Reserved26() override { return E_NOTIMPL; }
-  HRESULT Reserved27() override { return E_NOTIMPL; }
-  HRESULT Reserved28() override { return E_NOTIMPL; }
-  HRESULT Reserved29() override { return E_NOTIMPL; }
-  HRESULT Reserved32() override { return E_NOTIMPL; }
-  HRESULT Reserved33() override { return E_NOTIMPL; }
-  HRESULT Reserved35() override { return E_NOTIMPL; }
-  HRESULT Reserved36() override { return E_NOTIMPL; }
-  HRESULT Reserved37() override { return E_NOTIMPL; }
-  HRESULT Reserved40() override { return E_NOTIMPL; }
-  HRESULT Reserved41() override { return E_NOTIMPL; }
-};
-
 /// A section without values does not exist.
-class ConfigStore : public ReservedOperations {
+class ConfigStore : public Store {
  public:
   /// `systemPath` names the store's file; empty for none. Nothing is read.
   explicit ConfigStore(Values values = {}, std::string systemPath = {});

@@ -16,17 +16,6 @@ using StoreHandle = std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>;
 /// user can ask for, so that a damaged one is read to its end.
 constexpr int kGreatestGap = 1000;
 
-class ReservedOperations : public INTERNAL_IFC::ILoadComboReg {
- public:
-  HRESULT Reserved1() override { return E_NOTIMPL; }
-  HRESULT Reserved2() override { return E_NOTIMPL; }
-  HRESULT Reserved3() override { return E_NOTIMPL; }
-  HRESULT Reserved4() override { return E_NOTIMPL; }
-  HRESULT Reserved6() override { return E_NOTIMPL; }
-  HRESULT Reserved8() override { return E_NOTIMPL; }
-  HRESULT Reserved9() override { return E_NOTIMPL; }
-};
-
 /// Fills the list and leaves the text with its selection as the user left it.
 void FillRows(CComboBox& combo, const std::vector<CString>& items) {
   CString text;
@@ -46,7 +35,7 @@ void FillRows(CComboBox& combo, const std::vector<CString>& items) {
   combo.SetEditSel(LOWORD(selection), HIWORD(selection));
 }
 
-class CLoadComboReg final : public ReservedOperations {
+class CLoadComboReg final : public INTERNAL_IFC::ILoadComboReg {
  public:
   explicit CLoadComboReg(StoreHandle store) : store_(std::move(store)) {}
 

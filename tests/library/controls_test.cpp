@@ -274,13 +274,6 @@ class Provider : public INTERNAL_IFC::ILoadComboReg {
     for (const CString& item : items) combo->AddString(item);
     return status;
   }
-  HRESULT Reserved1() override { return E_NOTIMPL; }
-  HRESULT Reserved2() override { return E_NOTIMPL; }
-  HRESULT Reserved3() override { return E_NOTIMPL; }
-  HRESULT Reserved4() override { return E_NOTIMPL; }
-  HRESULT Reserved6() override { return E_NOTIMPL; }
-  HRESULT Reserved8() override { return E_NOTIMPL; }
-  HRESULT Reserved9() override { return E_NOTIMPL; }
   HRESULT SelectList(const CString&, std::int32_t) override { return E_NOTIMPL; }
   HRESULT GetItems(std::vector<CString>&) override { return E_NOTIMPL; }
   HRESULT SetItems(const std::vector<CString>&) override { return E_NOTIMPL; }

@@ -15,13 +15,6 @@ class FakeLanguage : public RES::ILanguageMgr {
   std::wstring appTitle;
   std::wstring messageCaption;
 
-  HRESULT Reserved1() override { return E_NOTIMPL; }
-  HRESULT Reserved2() override { return E_NOTIMPL; }
-  HRESULT Reserved3() override { return E_NOTIMPL; }
-  HRESULT Reserved4() override { return E_NOTIMPL; }
-  HRESULT Reserved5() override { return E_NOTIMPL; }
-  HRESULT Reserved6() override { return E_NOTIMPL; }
-  HRESULT Reserved7() override { return E_NOTIMPL; }
   std::wstring TranslateText(std::int32_t dialog, const std::wstring& text, std::int32_t) override {
     return L"[" + std::to_wstring(dialog) + L" " + text + L"]";
   }

@@ -49,9 +49,10 @@ class Person : public QObject {
     acted_ = true;
     QMetaObject::invokeMethod(
         object,
-        [this, window = QPointer<QWidget>(static_cast<QWidget*>(object))] {
+        [this, window = static_cast<QWidget*>(object)] {
           act_();
-          if (window != nullptr && window->isVisible()) QTest::keyClick(window, Qt::Key_Escape);
+          // An ended dialog is gone before the next event.
+          QTimer::singleShot(0, window, [window] { QTest::keyClick(window, Qt::Key_Escape); });
         },
         Qt::QueuedConnection);
     return false;

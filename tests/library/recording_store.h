@@ -56,34 +56,6 @@ class RecordingStore : public INTERNAL_IFC::IConfigDataMgr {
   void LoadFromNarrowText(const std::string& text) override { values->LoadFromNarrowText(text); }
   void LoadFromText(const std::wstring& text) override { values->LoadFromText(text); }
 
-  HRESULT Reserved1() override { return E_NOTIMPL; }
-  HRESULT Reserved2() override { return E_NOTIMPL; }
-  HRESULT Reserved3() override { return E_NOTIMPL; }
-  HRESULT Reserved5() override { return E_NOTIMPL; }
-  HRESULT Reserved6() override { return E_NOTIMPL; }
-  HRESULT Reserved8() override { return E_NOTIMPL; }
-  HRESULT Reserved9() override { return E_NOTIMPL; }
-  HRESULT Reserved10() override { return E_NOTIMPL; }
-  HRESULT Reserved11() override { return E_NOTIMPL; }
-  HRESULT Reserved12() override { return E_NOTIMPL; }
-  HRESULT Reserved15() override { return E_NOTIMPL; }
-  HRESULT Reserved18() override { return E_NOTIMPL; }
-  HRESULT Reserved21() override { return E_NOTIMPL; }
-  HRESULT Reserved22() override { return E_NOTIMPL; }
-  HRESULT Reserved23() override { return E_NOTIMPL; }
-  HRESULT Reserved24() override { return E_NOTIMPL; }
-  HRESULT Reserved25() override { return E_NOTIMPL; }
-  HRESULT Reserved26() override { return E_NOTIMPL; }
-  HRESULT Reserved27() override { return E_NOTIMPL; }
-  HRESULT Reserved28() override { return E_NOTIMPL; }
-  HRESULT Reserved29() override { return E_NOTIMPL; }
-  HRESULT Reserved32() override { return E_NOTIMPL; }
-  HRESULT Reserved33() override { return E_NOTIMPL; }
-  HRESULT Reserved35() override { return E_NOTIMPL; }
-  HRESULT Reserved36() override { return E_NOTIMPL; }
-  HRESULT Reserved37() override { return E_NOTIMPL; }
-  HRESULT Reserved40() override { return E_NOTIMPL; }
-  HRESULT Reserved41() override { return E_NOTIMPL; }
 
  private:
   static std::wstring Line(const wchar_t* type, const std::wstring& section,

@@ -338,6 +338,9 @@ TEST_F(FolderPages, AChosenSoundIsRememberedAtOnce) {
       EXPECT_EQ(TextOf(session, row.edit), Sound()) << session.Top();
       EXPECT_EQ(session.Dump("config"), Json({{"FOLDERS", {{"Sounds", Place()}}}}));
     }
+    // The whole dialog's Cancel brings the configuration back, and this with it.
+    EXPECT_EQ(session.End(kCancel), 1);
+    EXPECT_EQ(session.Dump("config"), Json::object());
   }
 }
 

@@ -1,5 +1,7 @@
 // The facts of every page: what it reads and writes, in which order, and how it behaves.
 
+#include <set>
+
 #include "environment.h"
 #include "page_fixture.h"
 #include "pages/formats/boolean_page.h"
@@ -195,6 +197,18 @@ TEST_F(PageFactsTest, WithoutMasterConfigurationTheFoldersStayEmptyAndNothingIsW
   EXPECT_TRUE(Save(page));
   EXPECT_TRUE(store->reads.empty());
   EXPECT_TRUE(store->writes.empty());
+}
+
+TEST_F(PageFactsTest, ImageButtonsAreSpokenAsTheirTooltipsSay) {
+  FoldersPage page;
+  Open(page);
+  std::set<QString> names;
+  for (const int id : {IDC_LOG_FILE_BROWSE, IDC_LOG_FILE_OPEN, IDC_CONFIG_FILE_BROWSE,
+                       IDC_CONFIG_FILE_OPEN, IDC_INDEX_FOLDER_BROWSE, IDC_INDEX_FOLDER_OPEN}) {
+    const QString name = WidgetOf(IDD_FOLDERS_PAGE, id)->accessibleName();
+    EXPECT_EQ(name.toStdWString(), GetToolTipText(page.GetDlgItem(id)->m_hWnd)) << id;
+    EXPECT_TRUE(names.insert(name).second) << name.toStdString();
+  }
 }
 
 TEST_F(PageFactsTest, SearchModeOutsideItsRangeShowsAndSavesTheFirst) {

@@ -10,7 +10,11 @@
 #include "pages/formats/expression_group_page.h"
 #include "pages/formats/hash_page.h"
 #include "pages/formats/regex_page.h"
+#include "pages/general/alerts_page.h"
+#include "pages/general/email_page.h"
+#include "pages/general/folders_page.h"
 #include "pages/general/general_group_page.h"
+#include "pages/general/history_page.h"
 #include "pages/general/memory_page.h"
 #include "pages/general/search_page.h"
 #include "resources/text_ids.h"
@@ -39,6 +43,12 @@ constexpr PageRow Leaf(PageGroup group, UINT title, std::int32_t pageId) {
   return {group, title, pageId, Page::IDD, &MakeEntry<Page>};
 }
 
+/// A page that lays out its controls.
+template <class Page>
+constexpr PageRow LaidOut(PageGroup group, UINT title, std::int32_t pageId) {
+  return Leaf<Geometry::CGeometryDynCreateWnd<Page>>(group, title, pageId);
+}
+
 template <class Manager, class Page>
 constexpr GroupRow Group(PageGroup group, UINT title, std::int32_t pageId, std::int32_t image,
                          const wchar_t* creationFailure) {
@@ -64,13 +74,17 @@ constexpr GroupRow kGroups[] = {
 };
 
 constexpr PageRow kPages[] = {
+    Leaf<CConfigEntryGeneralHistoryDlg>(kGeneral, TextId::kPageHistory, 7),
     Leaf<CConfigEntrySearchDlg>(kGeneral, TextId::kPageSearch, 27),
+    LaidOut<CConfigEntryGeneralEmailDlg>(kGeneral, TextId::kPageEmail, 29),
+    LaidOut<CConfigEntryGeneralAlertsDlg>(kGeneral, TextId::kPageAlerts, 12),
 
     Leaf<CConfigEntryExprBooleanDlg>(kExpressions, TextId::kPageBoolean, 19),
     Leaf<CConfigEntryExprDOSDlg>(kExpressions, TextId::kPageDos, 23),
     Leaf<CConfigEntryExprRegExDlg>(kExpressions, TextId::kPageRegex, 21),
     Leaf<CConfigEntryExprHashDlg>(kExpressions, TextId::kPageHash, 20),
 
+    LaidOut<CConfigEntryGeneralFoldersDlg>(kAdvanced, TextId::kPageFolders, 11),
     Leaf<CConfigEntryMemMgrDlg>(kAdvanced, TextId::kPageMemory, 28),
 };
 

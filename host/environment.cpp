@@ -80,6 +80,14 @@ void Environment::SetUp() {
   if (!problem.empty()) Report(QString::fromStdWString(problem));
 }
 
+void Environment::StayInside() {
+  // Without a machine file it is a machine that dictates nothing else.
+  const auto inside = machine_ != nullptr ? std::make_shared<MachineFile>(*machine_)
+                                          : std::make_shared<MachineFile>();
+  inside->StayInside(outside_);
+  SetMachine(inside);
+}
+
 void Environment::Report(const QString& text) {
   PrintError(text);
   if (log_ != nullptr) log_->LogLine(text.toStdWString());

@@ -3,6 +3,7 @@
 // What every command works with: the machine, the data folder with its stores, and the log.
 
 #include <memory>
+#include <utility>
 
 #include "host/arguments.h"
 #include "host/machine_file.h"
@@ -26,6 +27,12 @@ class Environment {
   Stores& GetStores() { return stores_; }
   HOLLERIN::MemoryLog& GetLog() { return *log_; }
 
+  /// From now on nothing is opened or played outside of the program; what would have been is
+  /// recorded.
+  void StayInside();
+  /// What was recorded since the last call.
+  Outside TakeOutside() { return std::exchange(*outside_, {}); }
+
   /// Writes to standard error and to the log.
   void Report(const QString& text);
   /// Reports stores that could not be saved; whether all were.
@@ -40,6 +47,7 @@ class Environment {
   Arguments arguments_;
   Stores stores_;
   std::shared_ptr<const MachineFile> machine_;
+  std::shared_ptr<Outside> outside_ = std::make_shared<Outside>();
   std::shared_ptr<HOLLERIN::MemoryLog> log_;
   bool allSaved_ = true;
 };

@@ -15,6 +15,19 @@ namespace {
 constexpr int kMost = std::numeric_limits<int>::max();
 constexpr int kLeast = std::numeric_limits<int>::min();
 
+// An object with letters as its keys.
+Shape::Check Drives() {
+  return [folders = Shape::MapOf(Shape::Text())](const QJsonValue& value) {
+    const QString problem = folders(value);
+    if (!problem.isEmpty()) return problem;
+    for (const QString& drive : value.toObject().keys()) {
+      const bool letter = drive.size() == 1 && drive.toUpper() >= "A" && drive.toUpper() <= "Z";
+      if (!letter) return QStringLiteral("\"%1\" is no letter from A to Z").arg(drive);
+    }
+    return QString();
+  };
+}
+
 // Every fact that a machine file may state. Those without a reader yet are checked all the same, so
 // that a file is right or wrong independent of the dialogs that exist.
 const Shape::Check& MachineShape() {
@@ -43,7 +56,7 @@ const Shape::Check& MachineShape() {
       {"components", ListOf(Text())},
       {"sound", OneOf({"plays", "fails"})},
       {"folders", MapOf(Text())},
-      {"drives", MapOf(Text())},
+      {"drives", Drives()},
       {"defaults", ObjectOf({{"config", values}, {"master", values}})},
       {"cache", Either(WholeObjectOf({{"items", Integer(0, kMost)}, {"bytes", Integer(0, kMost)}}),
                        OneOf({"fails"}))},
@@ -57,6 +70,26 @@ HOLLERIN::Value ToValue(const QJsonValue& value) {
   if (value.isBool()) return value.toBool();
   if (value.isString()) return value.toString().toStdWString();
   return static_cast<std::int32_t>(value.toInt());
+}
+
+std::optional<std::map<std::wstring, std::wstring>> ToTexts(const QJsonValue& json) {
+  if (json.isUndefined()) return std::nullopt;
+  std::map<std::wstring, std::wstring> texts;
+  const QJsonObject object = json.toObject();
+  for (auto row = object.begin(); row != object.end(); ++row) {
+    texts[row.key().toStdWString()] = row.value().toString().toStdWString();
+  }
+  return texts;
+}
+
+std::optional<std::map<wchar_t, std::wstring>> ToDrives(const QJsonValue& json) {
+  const auto texts = ToTexts(json);
+  if (!texts) return std::nullopt;
+  std::map<wchar_t, std::wstring> drives;
+  for (const auto& [letter, folder] : *texts) {
+    drives[static_cast<wchar_t>(QChar::toUpper(static_cast<char32_t>(letter.front())))] = folder;
+  }
+  return drives;
 }
 
 std::optional<HOLLERIN::Values> ToValues(const QJsonValue& json) {
@@ -115,6 +148,9 @@ void MachineFile::Take(const QJsonObject& facts) {
   if (const QJsonObject rule = facts["throws"].toObject(); !rule.isEmpty()) {
     throws_ = ThrowRule{rule["store"].toString().toStdString(), rule["call"].toInt()};
   }
+  if (facts.contains("sound")) soundPlays_ = facts["sound"] == "plays";
+  folders_ = ToTexts(facts["folders"]);
+  drives_ = ToDrives(facts["drives"]);
   const QJsonObject defaults = facts["defaults"].toObject();
   defaultConfig_ = ToValues(defaults["config"]);
   defaultMaster_ = ToValues(defaults["master"]);
@@ -128,4 +164,28 @@ std::optional<std::optional<std::wstring>> MachineFile::LanguageFile() const {
 
 bool MachineFile::Fails(std::wstring_view operation) const {
   return fails_.contains(operation) || Machine::Fails(operation);
+}
+
+std::map<wchar_t, std::wstring> MachineFile::Drives() const {
+  return drives_ ? *drives_ : Machine::Drives();
+}
+
+std::optional<std::map<std::wstring, std::wstring>> MachineFile::Folders() const {
+  return folders_ ? folders_ : Machine::Folders();
+}
+
+bool MachineFile::Opens(std::wstring_view nativePath) const {
+  if (outside_ == nullptr) return Machine::Opens(nativePath);
+  outside_->opened.emplace_back(nativePath);
+  return true;
+}
+
+std::optional<bool> MachineFile::PlaysSound(std::wstring_view path) const {
+  if (outside_ == nullptr) return soundPlays_ ? soundPlays_ : Machine::PlaysSound(path);
+  outside_->played.emplace_back(path);
+  return soundPlays_.value_or(true);
+}
+
+bool MachineFile::UsesToolkitPickers() const {
+  return outside_ != nullptr || Machine::UsesToolkitPickers();
 }

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "hollerin/application.h"
+#include "host/outside.h"
 #include "platform/machine.h"
 
 class QByteArray;
@@ -33,6 +34,15 @@ class MachineFile : public Machine {
   bool Portable() const override;
   std::optional<std::optional<std::wstring>> LanguageFile() const override;
   bool Fails(std::wstring_view operation) const override;
+  std::map<wchar_t, std::wstring> Drives() const override;
+  std::optional<std::map<std::wstring, std::wstring>> Folders() const override;
+  bool Opens(std::wstring_view nativePath) const override;
+  std::optional<bool> PlaysSound(std::wstring_view path) const override;
+  bool UsesToolkitPickers() const override;
+
+  /// From now on nothing is opened or played outside of the program, but added to `outside`, and
+  /// pickers are such that a program can use them. A sound plays unless the file says otherwise.
+  void StayInside(std::shared_ptr<Outside> outside) { outside_ = std::move(outside); }
 
   /// Logical pixels per inch; 0 leaves those of the screen.
   int Dpi() const { return dpi_; }
@@ -44,9 +54,13 @@ class MachineFile : public Machine {
   void Take(const QJsonObject& facts);
 
   int dpi_ = 0;
+  std::shared_ptr<Outside> outside_;  ///< Empty while the program is used by a person.
   std::optional<bool> portable_;
   std::optional<std::optional<std::wstring>> language_;
   std::set<std::wstring, std::less<>> fails_;
+  std::optional<bool> soundPlays_;
+  std::optional<std::map<std::wstring, std::wstring>> folders_;
+  std::optional<std::map<wchar_t, std::wstring>> drives_;
   std::optional<ThrowRule> throws_;
   std::optional<HOLLERIN::Values> defaultConfig_;
   std::optional<HOLLERIN::Values> defaultMaster_;

@@ -13,12 +13,16 @@ constexpr unsigned kGroupExtensions = 75;
 constexpr unsigned kGroupGeneral = 76;
 
 // Titles of pages.
+constexpr unsigned kPageFolders = 46;
 constexpr unsigned kPageBoolean = 70;
 constexpr unsigned kPageDos = 71;
 constexpr unsigned kPageRegex = 72;
 constexpr unsigned kPageHash = 73;
+constexpr unsigned kPageHistory = 77;
+constexpr unsigned kPageAlerts = 81;
 constexpr unsigned kPageSearch = 162;
 constexpr unsigned kPageMemory = 489;
+constexpr unsigned kPageEmail = 647;
 
 /// Format of the caption above a page; its one argument is the page's title.
 constexpr unsigned kPageCaption = 459;
@@ -29,6 +33,11 @@ constexpr unsigned kSavingConfiguration = 83;
 constexpr unsigned kRestoringDefaults = 85;
 
 // Messages.
+constexpr unsigned kFoundSoundMissing = 59;
+constexpr unsigned kEndSoundMissing = 60;
+constexpr unsigned kSoundNotPlayed = 61;
+constexpr unsigned kSoundNotFound = 62;
+constexpr unsigned kBrowsingFailed = 64;
 constexpr unsigned kAskRestoreDefaults = 84;
 constexpr unsigned kTranslationFailed = 394;
 constexpr unsigned kProblemRunningTask = 539;
@@ -57,6 +66,10 @@ constexpr unsigned kHistorySessions = 1066;
 constexpr unsigned kHistoryWorkspaces = 1067;
 
 constexpr unsigned kMegabytes = 417;
+
+/// File types of the dialog that picks a sound: pairs of a text and patterns, as CFileDialog wants
+/// them.
+constexpr unsigned kSoundFilter = 63;
 
 /// Entry of a colour button that opens the full colour dialog.
 constexpr unsigned kOtherColour = 758;

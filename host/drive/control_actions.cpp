@@ -189,9 +189,13 @@ void ClickControl(QWidget* control) {
 
 void TypeInto(QWidget* control, const QString& text) {
   if (!TakesText(control)) CheckKind(control, QStringLiteral(" edit "), QStringLiteral("type"));
-  const bool severalLines = qobject_cast<QPlainTextEdit*>(control) != nullptr;
   Focus(control);
-  Typist typist(control);
+  TypeKeys(control, text);
+}
+
+void TypeKeys(QWidget* field, const QString& text) {
+  const bool severalLines = qobject_cast<QPlainTextEdit*>(field) != nullptr;
+  Typist typist(field);
   bool going = typist.Press(Qt::CTRL | Qt::Key_A) && typist.Press(Qt::Key_Delete);
   for (const QString& character : Characters(text)) {
     if (!going) break;

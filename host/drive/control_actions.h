@@ -16,6 +16,9 @@ void CheckUsable(const WindowStack& windows, QWidget* control);
 
 void ClickControl(QWidget* control);
 void TypeInto(QWidget* control, const QString& text);
+/// As TypeInto, for a field that has the focus and need not be a control of a dialog. A line
+/// end is typed as Enter in a field of several lines, and left out elsewhere.
+void TypeKeys(QWidget* field, const QString& text);
 /// `index` or `text` names the row.
 void PickRow(QWidget* control, std::optional<int> index, const QString& text);
 void SlideTo(QWidget* control, int value);

@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "host/drive/control_finder.h"
+#include "host/drive/picker_actions.h"
 #include "host/drive/window_stack.h"
 #include "platform/qt/peer.h"
 
@@ -137,6 +138,7 @@ QString NameWindow(const QWidget* window) {
     return QStringLiteral("the message box \"%1\" (%2)").arg(title, box->text().left(200));
   }
   if (qobject_cast<const QMenu*>(window) != nullptr) return QStringLiteral("a popup menu");
+  if (IsPicker(window)) return QStringLiteral("the picker \"%1\"").arg(title);
   return QStringLiteral("the window \"%1\"").arg(title);
 }
 
@@ -144,6 +146,7 @@ QJsonObject DescribeWindow(const QWidget* window) {
   if (IsDialog(window)) return DescribeDialog(window);
   if (const auto* box = qobject_cast<const QMessageBox*>(window)) return DescribeMessage(*box);
   if (const auto* menu = qobject_cast<const QMenu*>(window)) return DescribeMenu(*menu);
+  if (IsPicker(window)) return DescribePicker(*window);
   return {{"kind", "tool"}, {"title", window->windowTitle()}};
 }
 

@@ -1,5 +1,6 @@
 #include "host/drive/request.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonParseError>
 #include <QStringList>
@@ -11,7 +12,7 @@
 
 namespace {
 
-enum class Kind { Integer, Text, Bool, Value };
+enum class Kind { Integer, Text, Bool, Value, Texts };
 
 struct Argument {
   const char* name;
@@ -46,6 +47,7 @@ const std::vector<Verb>& Verbs() {
       {"tree", {}},
       {"select", {{"page", Kind::Integer, false}, {"row", Kind::Integer, false}}, {"page", "row"}},
       {"press", {{"button", Kind::Text}}},
+      {"choose", {{"paths", Kind::Texts}}},
       {"dismiss", {}},
       {"menu", {{"command", Kind::Integer}}},
       {"key",
@@ -72,6 +74,7 @@ const std::vector<Verb>& Verbs() {
       {"dump", {{"store", Kind::Text}}},
       {"log", {}},
       {"clipboard", {}},
+      {"outside", {}},
       {"wait", {{"ms", Kind::Integer}}},
       {"quit", {}},
   };
@@ -85,6 +88,12 @@ bool IsInteger(const QJsonValue& value) {
          number <= std::numeric_limits<int>::max();
 }
 
+bool IsListOfTexts(const QJsonValue& value) {
+  const QJsonArray list = value.toArray();
+  return value.isArray() && std::all_of(list.begin(), list.end(),
+                                        [](const QJsonValue& item) { return item.isString(); });
+}
+
 bool Fits(Kind kind, const QJsonValue& value) {
   switch (kind) {
     case Kind::Integer:
@@ -95,6 +104,8 @@ bool Fits(Kind kind, const QJsonValue& value) {
       return value.isBool();
     case Kind::Value:
       return value.isBool() || value.isString() || IsInteger(value);
+    case Kind::Texts:
+      return IsListOfTexts(value);
   }
   return false;
 }
@@ -109,6 +120,8 @@ QString KindName(Kind kind) {
       return QStringLiteral("true or false");
     case Kind::Value:
       return QStringLiteral("true, false, a whole number of 32 bits or a text");
+    case Kind::Texts:
+      return QStringLiteral("a list of texts");
   }
   return {};
 }
@@ -195,6 +208,12 @@ int Distance(const QString& a, const QString& b) {
 }
 
 }  // namespace
+
+QStringList Request::Texts(const char* name) const {
+  QStringList texts;
+  for (const QJsonValue& item : arguments[QLatin1String(name)].toArray()) texts << item.toString();
+  return texts;
+}
 
 QString NearCandidates(const QString& wanted, const QStringList& candidates) {
   if (candidates.isEmpty()) return QStringLiteral("none");

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 /// A request whose verb is known and whose arguments are all there, of the right kind and known.
@@ -16,6 +17,7 @@ struct Request {
   bool Has(const char* name) const { return arguments.contains(QLatin1String(name)); }
   int Int(const char* name) const { return arguments[QLatin1String(name)].toInt(); }
   QString Text(const char* name) const { return arguments[QLatin1String(name)].toString(); }
+  QStringList Texts(const char* name) const;
 };
 
 struct ParsedRequest {

@@ -29,7 +29,9 @@ Session::Session(Environment& environment, std::function<void(const QJsonObject&
       entries_(environment),
       context_{environment, entries_, windows_,
                [this](const EntryResult& result) { write_(ToEvent(result)); }},
-      idle_(windows_, [this] { OnIdle(); }) {}
+      idle_(windows_, [this] { OnIdle(); }) {
+  environment_.StayInside();
+}
 
 void Session::TakeLine(const QByteArray& line) {
   queue_ << line;

@@ -10,6 +10,7 @@
 #include "host/drive/control_finder.h"
 #include "host/drive/describe.h"
 #include "host/drive/entry_runner.h"
+#include "host/drive/picker_actions.h"
 #include "host/drive/request.h"
 #include "host/drive/request_error.h"
 #include "host/drive/store_verbs.h"
@@ -179,6 +180,22 @@ Plan Clipboard(Context&, const Request&) {
   return Reply({{"text", QGuiApplication::clipboard()->text()}});
 }
 
+Plan Choose(Context& context, const Request& request) {
+  const QString text = PickerText(context.windows, request.Texts("paths"));
+  return {[&context, text] { ChooseInPicker(context.windows, text); }, {}};
+}
+
+QJsonArray ToArray(const std::vector<std::wstring>& texts) {
+  QJsonArray array;
+  for (const std::wstring& text : texts) array << QString::fromStdWString(text);
+  return array;
+}
+
+Plan TakeOutside(Context& context, const Request&) {
+  const Outside outside = context.environment.TakeOutside();
+  return Reply({{"opened", ToArray(outside.opened)}, {"played", ToArray(outside.played)}});
+}
+
 Plan Wait(Context&, const Request& request) {
   if (request.Int("ms") < 0) throw RequestError(QStringLiteral("Nobody can wait that long ago."));
   return {[] {}, {}, request.Int("ms")};
@@ -203,12 +220,32 @@ struct Verb {
 };
 
 constexpr Verb kVerbs[] = {
-    {"open", Open},   {"windows", Windows}, {"controls", Controls},   {"get", Get},
-    {"click", Click}, {"type", Type},       {"pick", Pick},           {"slide", Slide},
-    {"tree", Tree},   {"select", Select},   {"press", Press},         {"dismiss", DismissTop},
-    {"menu", Menu},   {"key", Key},         {"resize", Resize},       {"shot", Shot},
-    {"ok", Ok},       {"cancel", Cancel},   {"read", Read},           {"write", Write},
-    {"dump", Dump},   {"log", Log},         {"clipboard", Clipboard}, {"wait", Wait},
+    {"open", Open},
+    {"windows", Windows},
+    {"controls", Controls},
+    {"get", Get},
+    {"click", Click},
+    {"type", Type},
+    {"pick", Pick},
+    {"slide", Slide},
+    {"tree", Tree},
+    {"select", Select},
+    {"press", Press},
+    {"dismiss", DismissTop},
+    {"choose", Choose},
+    {"outside", TakeOutside},
+    {"menu", Menu},
+    {"key", Key},
+    {"resize", Resize},
+    {"shot", Shot},
+    {"ok", Ok},
+    {"cancel", Cancel},
+    {"read", Read},
+    {"write", Write},
+    {"dump", Dump},
+    {"log", Log},
+    {"clipboard", Clipboard},
+    {"wait", Wait},
 };
 
 }  // namespace

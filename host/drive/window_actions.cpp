@@ -8,6 +8,7 @@
 
 #include "host/drive/describe.h"
 #include "host/drive/input.h"
+#include "host/drive/picker_actions.h"
 #include "host/drive/request.h"
 #include "host/drive/request_error.h"
 #include "host/drive/window_stack.h"
@@ -43,7 +44,9 @@ void PressButton(const WindowStack& windows, const QString& button) {
 
 void Dismiss(const WindowStack& windows) {
   QWidget* top = TopWindow(windows);
-  if (qobject_cast<QMenu*>(top) == nullptr && qobject_cast<QMessageBox*>(top) == nullptr) {
+  const bool dismissed = qobject_cast<QMenu*>(top) != nullptr ||
+                         qobject_cast<QMessageBox*>(top) != nullptr || IsPicker(top);
+  if (!dismissed) {
     throw RequestError(
         QStringLiteral("The top window is %1, which is not dismissed.").arg(NameWindow(top)));
   }

@@ -24,8 +24,26 @@ constexpr Row kConfiguration[] = {
     {L"MemMgr", L"MaxSearchMem", 500},
     {L"MemMgr", L"ReduceLines", 10000},
     {L"MemMgr", L"ReduceChars", 1000},
-    // Greatest number of entries that the histories of drop-down lists keep.
+    // What is remembered from one run to the next.
+    {L"Options", L"RememberOptions", 1},
+    {L"Options", L"RememberWindowSize", 1},
+    {L"Options", L"RememberLastSearch", 0},
+    {L"Options", L"RememberSort", 1},
+    {L"Options", L"ClearHistoryOnExit", 0},
+    // Greatest number of entries that the histories keep, first those of drop-down lists.
     {L"Options", L"MaxDropDownHistory", 25},
+    {L"Options", L"MaxNavigationHistory", 50},
+    {L"Options", L"MaxMRUFileList", 10},
+    // Alerts; the sounds are for the user to choose.
+    {L"Alerts", L"PlaySound", 0},
+    {L"Alerts", L"TaskbarNotification", 0},
+    {L"Alerts", L"EveryFile", 0},
+    {L"Alerts", L"EndSearchSound", 0},
+    {L"Alerts", L"EndSearchTaskbarNotification", 0},
+    // E-mail.
+    {L"Options", L"EmailStripHTML", true},
+    {L"Options", L"IncParentMsgName", true},
+    {L"Options", L"AddMsgBodyAttach", false},
     // Expressions.
     {L"Options", L"LikeSimilarity", 1},
     {L"Options", L"MaxNearDistance", 10},
@@ -35,6 +53,20 @@ constexpr Row kConfiguration[] = {
     {L"Options", L"UseCharacterCollation", false},
     {L"Options", L"RegExMaxLines", 1000},
     {L"Options", L"HashingAlgorithms", 1},
+};
+
+/// A folder beside the program of a portable installation, and elsewhere. Empty leaves it to the
+/// system.
+struct FolderRow {
+  const wchar_t* key;
+  const wchar_t* beside;
+  const wchar_t* elsewhere;
+};
+
+constexpr FolderRow kFolders[] = {
+    {L"CacheFolder", L"cache/", L""},     {L"LogFile", L"", L"%DATA%"},
+    {L"ConfigFile", L"", L"%CONFIG%"},    {L"FavouriteFolder", L"", L"%DOCUMENTS%"},
+    {L"TempFolder", L"temp/", L"%TEMP%"}, {L"IndexFolder", L"index/", L"%CACHE%"},
 };
 
 }  // namespace
@@ -49,7 +81,11 @@ Values ShippedConfiguration() {
 
 Values ShippedMasterConfiguration(bool portable, const std::wstring& appFolder) {
   const bool besideProgram = portable && !appFolder.empty();
-  return {{L"FOLDERS", {{L"CacheFolder", besideProgram ? appFolder + L"cache/" : std::wstring()}}}};
+  Values values;
+  for (const FolderRow& row : kFolders) {
+    values[L"FOLDERS"][row.key] = besideProgram ? appFolder + row.beside : row.elsewhere;
+  }
+  return values;
 }
 
 }  // namespace HOLLERIN

@@ -8,8 +8,8 @@ namespace HOLLERIN {
 
 Values ShippedConfiguration();
 
-/// A portable installation keeps its folders in `appFolder`, beside the program; otherwise the
-/// folders stay empty, which leaves them to the system.
+/// A portable installation keeps its folders in `appFolder`, beside the program; otherwise they are
+/// placeholders of the application-folder manager, or empty, which leaves them to the system.
 Values ShippedMasterConfiguration(bool portable, const std::wstring& appFolder);
 
 }  // namespace HOLLERIN

@@ -114,8 +114,10 @@ TEST_F(ApplicationTest, ShipsDefaults) {
 
   ASSERT_EQ(CreateDefaultMasterConfiguration(&store, true), S_OK);
   EXPECT_EQ(store->ReadString(L"FOLDERS", L"CacheFolder", L"?"), L"/app/cache/");
+  EXPECT_EQ(store->ReadString(L"FOLDERS", L"IndexFolder", L"?"), L"/app/index/");
   ASSERT_EQ(CreateDefaultMasterConfiguration(&store, false), S_OK);
   EXPECT_EQ(store->ReadString(L"FOLDERS", L"CacheFolder", L"?"), L"");
+  EXPECT_EQ(store->ReadString(L"FOLDERS", L"IndexFolder", L"?"), L"%CACHE%");
 
   application_.defaultConfig = Values{{L"a", {{L"b", true}}}};
   application_.defaultMaster = Values{{L"c", {{L"d", false}}}};

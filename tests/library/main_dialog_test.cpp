@@ -69,21 +69,21 @@ class MainDialogTest : public PageTest {
 };
 
 TEST_F(MainDialogTest, NotificationsRebuildTheChildrenOfTheirItem) {
-  OpenDialog(27);
-  EXPECT_TRUE(Shown(IDD_SEARCH_PAGE));
+  OpenDialog(7);
+  EXPECT_TRUE(Shown(IDD_HISTORY_PAGE));
   const HTREEITEM general = Tree().GetRootItem();
-  const HTREEITEM search = Tree().GetChildItem(general);
+  const HTREEITEM history = Tree().GetChildItem(general);
   CTreeViewParms parms(general);
   EXPECT_EQ(dialog->Notify(kChildrenChanged + 1, &parms), S_OK);
   EXPECT_EQ(dialog->Notify(kChildrenChanged, nullptr), S_OK);
-  EXPECT_EQ(Tree().GetSelectedItem(), search);
+  EXPECT_EQ(Tree().GetSelectedItem(), history);
   EXPECT_EQ(dialog->Notify(kChildrenChanged, &parms), S_OK);
   ToolkitApplication::ProcessEvents();
   EXPECT_EQ(Tree().GetSelectedItem(), general);
   EXPECT_TRUE(Shown(IDD_GENERAL_GROUP));
-  EXPECT_FALSE(Shown(IDD_SEARCH_PAGE));
+  EXPECT_FALSE(Shown(IDD_HISTORY_PAGE));
   ASSERT_NE(Tree().GetChildItem(general), nullptr);
-  EXPECT_EQ(EntryOf(Tree(), Tree().GetChildItem(general))->GetPageId(), 27);
+  EXPECT_EQ(EntryOf(Tree(), Tree().GetChildItem(general))->GetPageId(), 7);
 }
 
 TEST_F(MainDialogTest, AnUnknownPageShowsNone) {
@@ -95,13 +95,13 @@ TEST_F(MainDialogTest, AnUnknownPageShowsNone) {
 TEST_F(MainDialogTest, APageThatCannotBeReadIsReportedAndLeavesTheDialogUsable) {
   OpenDialog(4);
   store->failsReading = true;
-  const HTREEITEM search = Tree().GetChildItem(Tree().GetRootItem());
-  EXPECT_EQ(AnswerMessages([&] { Tree().SelectItem(search); }).size(), 1U);
+  const HTREEITEM history = Tree().GetChildItem(Tree().GetRootItem());
+  EXPECT_EQ(AnswerMessages([&] { Tree().SelectItem(history); }).size(), 1U);
   EXPECT_FALSE(Shown(IDD_GENERAL_GROUP));
   store->failsReading = false;
   Tree().SelectItem(Tree().GetRootItem());
-  Tree().SelectItem(search);
-  EXPECT_TRUE(Shown(IDD_SEARCH_PAGE));
+  Tree().SelectItem(history);
+  EXPECT_TRUE(Shown(IDD_HISTORY_PAGE));
 }
 
 TEST_F(MainDialogTest, AVetoKeepsTheSelection) {

@@ -13,12 +13,13 @@
 #include "recording_store.h"
 #include "resources/resource.h"
 
-/// A host whose working store can be taken away.
+/// A host whose stores can be taken away.
 class TestProvider : public INTERNAL_IFC::IConfigDataProvider {
  public:
   StoreHandle config;
+  StoreHandle master;
   void GetConfig(StoreHandle& store) override { store = config; }
-  void GetMasterConfig(StoreHandle& store) override { store.reset(); }
+  void GetMasterConfig(StoreHandle& store) override { store = master; }
   void GetHistoryConfig(StoreHandle& store) override { store.reset(); }
   CClearHistorySettings* GetClearHistorySettings() override { return nullptr; }
 };
@@ -43,6 +44,7 @@ class PageTest : public testing::Test {
  protected:
   PageTest() {
     provider.config = store;
+    provider.master = store;
     EXPECT_TRUE(host.Create(IDD_MAIN_CONFIGURATION, nullptr));
     host.ShowWindow(SW_SHOW);
   }

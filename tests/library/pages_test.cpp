@@ -1,11 +1,17 @@
 // The facts of every page: what it reads and writes, in which order, and how it behaves.
 
+#include <set>
+
 #include "environment.h"
 #include "page_fixture.h"
 #include "pages/formats/boolean_page.h"
 #include "pages/formats/dos_page.h"
 #include "pages/formats/hash_page.h"
 #include "pages/formats/regex_page.h"
+#include "pages/general/alerts_page.h"
+#include "pages/general/email_page.h"
+#include "pages/general/folders_page.h"
+#include "pages/general/history_page.h"
 #include "pages/general/memory_page.h"
 #include "pages/general/search_page.h"
 #include "resources/text_ids.h"
@@ -27,7 +33,51 @@ std::shared_ptr<CConfigDialog> Make() {
   return std::make_shared<Page>();
 }
 
+using HistoryPage = CConfigEntryGeneralHistoryDlg;
+using FoldersPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralFoldersDlg>;
+using AlertsPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralAlertsDlg>;
+using EmailPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralEmailDlg>;
+
 const PageFacts kFacts[] = {
+    {"history",
+     Make<HistoryPage>,
+     {L"int Options/MaxNavigationHistory 0", L"int Options/MaxDropDownHistory 0",
+      L"int Options/MaxMRUFileList 0", L"int Options/RememberOptions 0",
+      L"int Options/RememberWindowSize 0", L"int Options/RememberLastSearch 0",
+      L"int Options/RememberSort 0", L"int Options/ClearHistoryOnExit 0"},
+     {L"int Options/MaxNavigationHistory 999", L"int Options/MaxDropDownHistory 0",
+      L"int Options/MaxMRUFileList 99", L"int Options/RememberOptions 1",
+      L"int Options/RememberWindowSize 0", L"int Options/RememberLastSearch 0",
+      L"int Options/RememberSort 1", L"int Options/ClearHistoryOnExit 0"},
+     {{L"Options",
+       {{L"MaxNavigationHistory", 999},
+        {L"MaxMRUFileList", 99},
+        {L"RememberOptions", 1},
+        {L"RememberSort", 1}}}}},
+    {"folders",
+     Make<FoldersPage>,
+     {L"text FOLDERS/LogFile ", L"text FOLDERS/ConfigFile ", L"text FOLDERS/FavouriteFolder ",
+      L"text FOLDERS/TempFolder ", L"text FOLDERS/IndexFolder "},
+     {L"text FOLDERS/LogFile %A%", L"text FOLDERS/ConfigFile ", L"text FOLDERS/FavouriteFolder ",
+      L"text FOLDERS/TempFolder ", L"text FOLDERS/IndexFolder /i"},
+     {{L"FOLDERS", {{L"LogFile", L"%A%"}, {L"IndexFolder", L"/i"}}}}},
+    {"alerts",
+     Make<AlertsPage>,
+     {L"int Alerts/PlaySound 0", L"int Alerts/TaskbarNotification 0", L"int Alerts/EveryFile 0",
+      L"text Alerts/SoundPath ", L"int Alerts/EndSearchSound 0",
+      L"int Alerts/EndSearchTaskbarNotification 0", L"text Alerts/EndSearchSoundPath "},
+     {L"int Alerts/PlaySound 1", L"int Alerts/TaskbarNotification 0", L"int Alerts/EveryFile 1",
+      L"text Alerts/SoundPath a", L"int Alerts/EndSearchSound 0",
+      L"int Alerts/EndSearchTaskbarNotification 0", L"text Alerts/EndSearchSoundPath "},
+     {{L"Alerts", {{L"PlaySound", 1}, {L"EveryFile", 1}, {L"SoundPath", L"a"}}}}},
+    {"e-mail",
+     Make<EmailPage>,
+     {L"bool Options/EmailStripHTML false", L"bool Options/IncParentMsgName false",
+      L"bool Options/AddMsgBodyAttach false", L"text FOLDERS/ThunderbirdFolder "},
+     {L"bool Options/IncParentMsgName false", L"bool Options/AddMsgBodyAttach true",
+      L"bool Options/EmailStripHTML true", L"text FOLDERS/ThunderbirdFolder /m"},
+     {{L"Options", {{L"EmailStripHTML", true}, {L"AddMsgBodyAttach", true}}},
+      {L"FOLDERS", {{L"ThunderbirdFolder", L"/m"}}}}},
     {"search",
      Make<CConfigEntrySearchDlg>,
      {L"int Options/DeferredSortCol -1", L"int Options/DeferredSortAsc 1",
@@ -136,6 +186,29 @@ TEST_F(PageFactsTest, WithoutStoreNothingIsWrittenAndOnlyTheSearchPageShowsDefau
   }
   EXPECT_TRUE(store->reads.empty());
   EXPECT_TRUE(store->writes.empty());
+}
+
+TEST_F(PageFactsTest, WithoutMasterConfigurationTheFoldersStayEmptyAndNothingIsWritten) {
+  Give(L"FOLDERS", L"LogFile", L"/log");
+  provider.master.reset();
+  FoldersPage page;
+  Open(page);
+  EXPECT_EQ(Text(page, IDC_LOG_FILE), L"");
+  EXPECT_TRUE(Save(page));
+  EXPECT_TRUE(store->reads.empty());
+  EXPECT_TRUE(store->writes.empty());
+}
+
+TEST_F(PageFactsTest, ImageButtonsAreSpokenAsTheirTooltipsSay) {
+  FoldersPage page;
+  Open(page);
+  std::set<QString> names;
+  for (const int id : {IDC_LOG_FILE_BROWSE, IDC_LOG_FILE_OPEN, IDC_CONFIG_FILE_BROWSE,
+                       IDC_CONFIG_FILE_OPEN, IDC_INDEX_FOLDER_BROWSE, IDC_INDEX_FOLDER_OPEN}) {
+    const QString name = WidgetOf(IDD_FOLDERS_PAGE, id)->accessibleName();
+    EXPECT_EQ(name.toStdWString(), GetToolTipText(page.GetDlgItem(id)->m_hWnd)) << id;
+    EXPECT_TRUE(names.insert(name).second) << name.toStdString();
+  }
 }
 
 TEST_F(PageFactsTest, SearchModeOutsideItsRangeShowsAndSavesTheFirst) {

@@ -67,10 +67,14 @@ void CollectRows(const QAbstractItemModel& model, const QModelIndex& parent, QSt
 
 std::vector<WidgetCopy> CopyControls(const QWidget& dialog) {
   std::vector<WidgetCopy> copies;
-  for (const QWidget* widget : dialog.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+  for (const QWidget* widget :
+       dialog.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
     const char* kind = PlainKind(*widget);
     if (kind == nullptr) continue;
-    WidgetCopy copy{kind, widget->property("text").toString(), widget->geometry(), {},
+    WidgetCopy copy{kind,
+                    widget->property("text").toString(),
+                    widget->geometry(),
+                    {},
                     widget->isVisibleTo(&dialog)};
     if (const auto* combo = qobject_cast<const QComboBox*>(widget)) {
       for (int row = 0; row < combo->count(); ++row) copy.rows << combo->itemText(row);
@@ -208,7 +212,8 @@ void OpenPlainDialog(benchmark::State& state, const Plan& plan) {
 /// Rows of the tree in order, with the group rows.
 std::vector<QModelIndex> TreeRows(const QTreeView& tree) {
   std::vector<QModelIndex> rows;
-  for (QModelIndex index = tree.model()->index(0, 0); index.isValid(); index = tree.indexBelow(index)) {
+  for (QModelIndex index = tree.model()->index(0, 0); index.isValid();
+       index = tree.indexBelow(index)) {
     rows.push_back(index);
   }
   return rows;
@@ -288,13 +293,14 @@ int main(int argc, char** argv) {
 
   benchmark::RegisterBenchmark("OpenMainDialog", OpenMainDialog, std::cref(subject), 27)
       ->UseManualTime();
-  benchmark::RegisterBenchmark("OpenPlainDialog", OpenPlainDialog, std::cref(plan))->UseManualTime();
+  benchmark::RegisterBenchmark("OpenPlainDialog", OpenPlainDialog, std::cref(plan))
+      ->UseManualTime();
   benchmark::RegisterBenchmark("ShowEveryPage", ShowEveryPage, std::cref(subject))->UseManualTime();
   benchmark::RegisterBenchmark("ShowEveryPlainPage", ShowEveryPlainPage, std::cref(group),
                                std::cref(pages))
       ->UseManualTime();
   std::printf("%zu pages besides the first one\n", pages.size());
-  return RunAndPrintRatios(argc, argv,
-                           {{"OpenMainDialog", "OpenPlainDialog", 1.25},
-                            {"ShowEveryPage", "ShowEveryPlainPage", 1.25}});
+  return RunAndPrintRatios(
+      argc, argv,
+      {{"OpenMainDialog", "OpenPlainDialog", 1.25}, {"ShowEveryPage", "ShowEveryPlainPage", 1.25}});
 }

@@ -77,7 +77,8 @@ int main(int argc, char** argv) {
                                  [&](QProcess& child) { pages = VisitEveryPage(child); });
   const long empty = MeasureChild(QCoreApplication::applicationFilePath(), {"--empty-dialog"},
                                   [](QProcess& child) { child.waitForReadyRead(); });
-  std::printf("\nPeak resident size: host after %d pages %.1f MB, empty dialog %.1f MB, ratio %.2f\n",
-              pages, double(host) / 1024, double(empty) / 1024, double(host) / double(empty));
+  std::printf(
+      "\nPeak resident size: host after %d pages %.1f MB, empty dialog %.1f MB, ratio %.2f\n",
+      pages, double(host) / 1024, double(empty) / 1024, double(host) / double(empty));
   return 0;
 }

@@ -4,6 +4,19 @@ namespace {
 
 constexpr int kGap = 6;  // Between text and rule, for 96 logical pixels per inch.
 
+/// The interface font in bold, with that cell height. Kept, because all headings share one height
+/// and a font is looked for afresh whenever one is made.
+const CFont& HeadingFont(int height) {
+  static CFont font;
+  static int madeFor = 0;
+  if (height != madeFor) {
+    font.CreateFontIndirect(
+        {.lfHeight = height, .lfWeight = FW_BOLD, .lfQuality = 0, .lfFaceName = {}});
+    madeFor = height;
+  }
+  return font;
+}
+
 COLORREF Between(COLORREF a, COLORREF b) {
   return RGB((GetRValue(a) + GetRValue(b)) / 2U, (GetGValue(a) + GetGValue(b)) / 2U,
              (GetBValue(a) + GetBValue(b)) / 2U);
@@ -20,15 +33,6 @@ void CSeparator::PreSubclassWindow() {
   MarkAsSeparator();
 }
 
-CFont CSeparator::HeadingFont() const {
-  LOGFONTW description;
-  description.lfHeight = GetFont().GetHeight();
-  description.lfWeight = FW_BOLD;
-  CFont font;
-  font.CreateFontIndirect(description);
-  return font;
-}
-
 void CSeparator::OnPaint() {
   CPaintDC surface(this);
   CRect area;
@@ -36,7 +40,7 @@ void CSeparator::OnPaint() {
   CString text;
   GetWindowText(text);
 
-  surface.SelectFont(HeadingFont());
+  surface.SelectFont(HeadingFont(GetFont().GetHeight()));
   surface.SetTextColor(GetSysColor(IsWindowEnabled() ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT));
   surface.DrawText(text, area, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
 

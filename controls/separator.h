@@ -9,7 +9,4 @@ class CSeparator : public CBCGPStatic {
   void PreSubclassWindow() override;
   void OnPaint();
   DECLARE_MESSAGE_MAP()
-
- private:
-  CFont HeadingFont() const;
 };

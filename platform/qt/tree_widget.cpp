@@ -110,8 +110,10 @@ void TreeWidget::focusInEvent(QFocusEvent* event) {
 
 void TreeWidget::resizeEvent(QResizeEvent* event) {
   // The mark of the selected row spans the tree also where all titles are shorter.
-  header()->setMinimumSectionSize(viewport()->width());
-  resizeColumnToContents(0);
+  if (viewport()->width() != header()->minimumSectionSize()) {
+    header()->setMinimumSectionSize(viewport()->width());
+    resizeColumnToContents(0);
+  }
   QTreeWidget::resizeEvent(event);
 }
 

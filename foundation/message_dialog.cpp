@@ -41,7 +41,9 @@ BOOL CMessageBox::OnEraseBkgnd(CDC* dc) {
     CRect client;
     GetClientRect(client);
     dc->SelectFont(font_);
-    dc->DrawText(text_, CRect(image.right + globalUtils.ScaleByDPI(kTextMargin), image.top, client.right, image.bottom),
+    dc->DrawText(text_,
+                 CRect(image.right + globalUtils.ScaleByDPI(kTextMargin), image.top, client.right,
+                       image.bottom),
                  DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
   }
   return CBCGPDialog::OnEraseBkgnd(dc);

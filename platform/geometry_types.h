@@ -32,7 +32,8 @@ struct CSize : SIZE {
   CSize(int width, int height) : SIZE{width, height} {}
   /// The packed pair of a size message: width in the low 16 bits, height in the next, signed.
   explicit CSize(DWORD packed)
-      : SIZE{static_cast<std::int16_t>(packed & 0xFFFFU), static_cast<std::int16_t>(packed >> 16)} {}
+      : SIZE{static_cast<std::int16_t>(packed & 0xFFFFU), static_cast<std::int16_t>(packed >> 16)} {
+  }
   bool operator==(const CSize& other) const { return cx == other.cx && cy == other.cy; }
 };
 

@@ -21,9 +21,9 @@ using MessageInvoker = bool (*)(CCmdTarget& target, const MessageArguments& argu
                                 LRESULT& result);
 
 struct AFX_MSGMAP_ENTRY {
-  UINT message = 0;    ///< WM_COMMAND, WM_NOTIFY, or the message itself; 0 ends the table.
-  UINT code = 0;       ///< Notification code of WM_COMMAND and WM_NOTIFY.
-  UINT firstId = 0;    ///< Control or command numbers that the entry is for.
+  UINT message = 0;  ///< WM_COMMAND, WM_NOTIFY, or the message itself; 0 ends the table.
+  UINT code = 0;     ///< Notification code of WM_COMMAND and WM_NOTIFY.
+  UINT firstId = 0;  ///< Control or command numbers that the entry is for.
   UINT lastId = 0;
   MessageInvoker invoke = nullptr;
 };
@@ -122,28 +122,29 @@ bool MinMaxInfo(CCmdTarget& target, const MessageArguments& arguments, LRESULT& 
 
 }  // namespace message_map
 
-#define DECLARE_MESSAGE_MAP()                           \
- protected:                                             \
-  static const AFX_MSGMAP* GetThisMessageMap();         \
+#define DECLARE_MESSAGE_MAP()                   \
+ protected:                                     \
+  static const AFX_MSGMAP* GetThisMessageMap(); \
   const AFX_MSGMAP* GetMessageMap() const override;
 
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                              \
-  const AFX_MSGMAP* theClass::GetMessageMap() const { return GetThisMessageMap(); }         \
-  const AFX_MSGMAP* theClass::GetThisMessageMap() {                                         \
-    using ThisClass [[maybe_unused]] = theClass;                                            \
-    using ThisBase = baseClass;                                                             \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                      \
+  const AFX_MSGMAP* theClass::GetMessageMap() const { return GetThisMessageMap(); } \
+  const AFX_MSGMAP* theClass::GetThisMessageMap() {                                 \
+    using ThisClass [[maybe_unused]] = theClass;                                    \
+    using ThisBase = baseClass;                                                     \
     static const AFX_MSGMAP_ENTRY entries[] = {
-#define END_MESSAGE_MAP()                                          \
-  {} }                                                             \
-  ;                                                                \
+#define END_MESSAGE_MAP()                                                \
+  {}                                                                     \
+  }                                                                      \
+  ;                                                                      \
   static const AFX_MSGMAP map = {&ThisBase::GetThisMessageMap, entries}; \
-  return &map;                                                     \
+  return &map;                                                           \
   }
 
-#define ON_CONTROL(code, id, memberFxn)                                       \
+#define ON_CONTROL(code, id, memberFxn)                                               \
   {WM_COMMAND, static_cast<UINT>(code), static_cast<UINT>(id), static_cast<UINT>(id), \
    &message_map::Command<ThisClass, memberFxn>},
-#define ON_CONTROL_RANGE(code, first, last, memberFxn)                           \
+#define ON_CONTROL_RANGE(code, first, last, memberFxn)                                     \
   {WM_COMMAND, static_cast<UINT>(code), static_cast<UINT>(first), static_cast<UINT>(last), \
    &message_map::CommandRange<ThisClass, memberFxn>},
 #define ON_COMMAND(id, memberFxn) ON_CONTROL(0, id, memberFxn)
@@ -151,7 +152,7 @@ bool MinMaxInfo(CCmdTarget& target, const MessageArguments& arguments, LRESULT& 
 #define ON_STN_CLICKED(id, memberFxn) ON_CONTROL(STN_CLICKED, id, memberFxn)
 #define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
 #define ON_LBN_SELCHANGE(id, memberFxn) ON_CONTROL(LBN_SELCHANGE, id, memberFxn)
-#define ON_NOTIFY(code, id, memberFxn)                                              \
+#define ON_NOTIFY(code, id, memberFxn)                                               \
   {WM_NOTIFY, static_cast<UINT>(code), static_cast<UINT>(id), static_cast<UINT>(id), \
    &message_map::Notify<ThisClass, memberFxn>},
 #define ON_NOTIFY_EX_RANGE(code, first, last, memberFxn)                                  \
@@ -161,7 +162,8 @@ bool MinMaxInfo(CCmdTarget& target, const MessageArguments& arguments, LRESULT& 
   {message, 0, 0, 0, &message_map::Message<ThisClass, memberFxn>},
 #define ON_WM_SIZE() {WM_SIZE, 0, 0, 0, &message_map::Size<ThisClass, &ThisClass::OnSize>},
 #define ON_WM_PAINT() {WM_PAINT, 0, 0, 0, &message_map::Plain<ThisClass, &ThisClass::OnPaint>},
-#define ON_WM_DESTROY() {WM_DESTROY, 0, 0, 0, &message_map::Plain<ThisClass, &ThisClass::OnDestroy>},
+#define ON_WM_DESTROY() \
+  {WM_DESTROY, 0, 0, 0, &message_map::Plain<ThisClass, &ThisClass::OnDestroy>},
 #define ON_WM_KILLFOCUS() \
   {WM_KILLFOCUS, 0, 0, 0, &message_map::KillFocus<ThisClass, &ThisClass::OnKillFocus>},
 #define ON_WM_ERASEBKGND() \

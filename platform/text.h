@@ -57,7 +57,9 @@ class CString {
 
   CString& operator+=(const wchar_t* text) { return text_ += text, *this; }
   CString& operator+=(wchar_t character) { return text_ += character, *this; }
-  friend CString operator+(const CString& a, const CString& b) { return CString(a.text_ + b.text_); }
+  friend CString operator+(const CString& a, const CString& b) {
+    return CString(a.text_ + b.text_);
+  }
   friend bool operator==(const CString& a, const CString& b) { return a.text_ == b.text_; }
   friend bool operator==(const CString& a, const wchar_t* b) { return a.text_ == b; }
   friend bool operator==(const CString& a, const std::wstring& b) { return a.text_ == b; }
@@ -70,10 +72,8 @@ class CString {
   static FormatArgument ToArgument(const std::wstring& text) { return text; }
   static FormatArgument ToArgument(const wchar_t* text) { return std::wstring(text); }
   template <class Integer>
-    requires std::is_integral_v<Integer>
-  static FormatArgument ToArgument(Integer value) {
-    return static_cast<long long>(value);
-  }
+  requires std::is_integral_v<Integer>
+  static FormatArgument ToArgument(Integer value) { return static_cast<long long>(value); }
 
   std::wstring text_;
 };

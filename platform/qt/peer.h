@@ -47,8 +47,8 @@ struct Peer {
   HWND handle = nullptr;
   HWND parent = nullptr;  ///< The dialog that holds a control, or the parent of a child dialog.
   QPointer<QWidget> widget;
-  CWnd* attached = nullptr;          ///< Set by SubclassDlgItem and by dialogs; not owned.
-  std::unique_ptr<CWnd> temporary;   ///< Stands in where nothing is attached.
+  CWnd* attached = nullptr;         ///< Set by SubclassDlgItem and by dialogs; not owned.
+  std::unique_ptr<CWnd> temporary;  ///< Stands in where nothing is attached.
   ControlKind kind = ControlKind::Dialog;
   const wchar_t* className = L"";
   int id = 0;
@@ -57,15 +57,15 @@ struct Peer {
   DWORD style = 0;
   DWORD exStyle = 0;
   bool toolTips = false;
-  HWND owner = nullptr;                ///< Of a top-level dialog; it is destroyed with its owner.
-  std::vector<ChildWindow> children;   ///< Direct children in template order.
-  HINSTANCE module = nullptr;          ///< Current when the window was made, and in its messages.
-  std::wstring spokenName;             ///< Names the control instead of any text; may be empty.
-  std::wstring text;                   ///< The text of a window whose widget shows none.
-  int modalDepth = 0;                  ///< Number of modal runs when the window was made.
-  bool exchanging = false;             ///< Inside UpdateData; the notifications of controls rest.
+  HWND owner = nullptr;               ///< Of a top-level dialog; it is destroyed with its owner.
+  std::vector<ChildWindow> children;  ///< Direct children in template order.
+  HINSTANCE module = nullptr;         ///< Current when the window was made, and in its messages.
+  std::wstring spokenName;            ///< Names the control instead of any text; may be empty.
+  std::wstring text;                  ///< The text of a window whose widget shows none.
+  int modalDepth = 0;                 ///< Number of modal runs when the window was made.
+  bool exchanging = false;            ///< Inside UpdateData; the notifications of controls rest.
   bool destroying = false;
-  bool defaultReached = false;  ///< WM_PAINT or WM_CONTEXTMENU is left to the widget.
+  bool defaultReached = false;      ///< WM_PAINT or WM_CONTEXTMENU is left to the widget.
   std::unique_ptr<QObject> events;  ///< Makes messages of the widget's events.
 
   /// The window's own behaviour, last resort of every message. An override hands what it does not

@@ -5,8 +5,8 @@
 #include <QStyle>
 #include <QStyleOption>
 
-#include "platform/qt/control_parts.h"
 #include "platform/bcg.h"
+#include "platform/qt/control_parts.h"
 
 namespace {
 
@@ -115,9 +115,10 @@ void StaticPeer::SetText(const std::wstring& newText) {
 
 void StaticPeer::SetPicture(const QPixmap& picture) {
   // Drawn for 96 logical pixels per inch; it grows with the texts around it.
-  const QSize size(globalUtils.ScaleByDPI(picture.width()), globalUtils.ScaleByDPI(picture.height()));
-  Label().setPixmap(size == picture.size() ? picture
-                                           : picture.scaled(size, Qt::IgnoreAspectRatio,
-                                                            Qt::SmoothTransformation));
+  const QSize size(globalUtils.ScaleByDPI(picture.width()),
+                   globalUtils.ScaleByDPI(picture.height()));
+  Label().setPixmap(size == picture.size()
+                        ? picture
+                        : picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   SetPeerKind(*this, ControlKind::Picture);
 }

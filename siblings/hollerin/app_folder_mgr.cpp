@@ -62,7 +62,6 @@ class CAppFolderMgr : public IAppFolderMgr {
                   [](const auto& row) { return row.first.empty() || row.second.empty(); });
   }
 
-
   std::wstring CollapsePath(const std::wstring& path) override {
     if (GetMachine().Fails(L"CollapsePath")) return path;
     const bool windows = IsWindowsPath(path);

@@ -241,6 +241,25 @@ TEST_F(FolderPages, EveryPathOfARowIsOpened) {
   EXPECT_EQ(session.Do({{"do", "outside"}})["played"], Json::array());
 }
 
+TEST_F(FolderPages, APathWithALineBreakIsReportedAndKept) {
+  const std::string path = Place() + "/no\nfolder";
+  Session session(data_, machine_);
+  const Json value = {{"store", "master"}, {"section", "FOLDERS"}, {"key", "LogFile"}};
+  Json write = {{"do", "write"}, {"type", "string"}, {"value", path}};
+  write.update(value);
+  session.Do(write);
+  session.Open(kFolders);
+  EXPECT_EQ(TextOf(session, kFolderRows[0].edit), path);
+  session.Click(kFolderRows[0].action);
+  EXPECT_EQ(session.Top()["title"], "Application Error");
+  AnswerOk(session);
+  EXPECT_EQ(session.Do({{"do", "outside"}})["opened"], Json::array());
+  EXPECT_EQ(session.End(kOk), 0);
+  Json read = {{"do", "read"}, {"type", "string"}, {"default", ""}};
+  read.update(value);
+  EXPECT_EQ(session.Do(read)["value"], path);
+}
+
 TEST_F(FolderPages, AMissingSoundKeepsThePage) {
   const struct {
     std::vector<int> checks;

@@ -56,7 +56,6 @@ class RecordingStore : public INTERNAL_IFC::IConfigDataMgr {
   void LoadFromNarrowText(const std::string& text) override { values->LoadFromNarrowText(text); }
   void LoadFromText(const std::wstring& text) override { values->LoadFromText(text); }
 
-
  private:
   static std::wstring Line(const wchar_t* type, const std::wstring& section,
                            const std::wstring& key, const std::wstring& value) {

@@ -58,10 +58,12 @@ void LoadFromText(benchmark::State& state, int count) {
   std::wstring text;
   FilledStore(count)->SaveToText(text);
   const auto store = HOLLERIN::CreateStore();
+  std::vector<std::pair<std::wstring, std::wstring>> names;
+  for (int i = 0; i < count; ++i) names.emplace_back(SectionName(i), KeyName(i));
   for (auto _ : state) {
     store->LoadFromText(text);
-    for (int i = 0; i < count; ++i) {
-      benchmark::DoNotOptimize(store->ReadString(SectionName(i), KeyName(i), L""));
+    for (const auto& [section, key] : names) {
+      benchmark::DoNotOptimize(store->ReadString(section, key, L""));
     }
   }
 }
@@ -86,6 +88,10 @@ void SettingsRead(benchmark::State& state, int count) {
   QTemporaryDir folder;
   const QString source = folder.filePath("source.ini");
   WriteSettings(source, count);
+  QStringList names;
+  for (int i = 0; i < count; ++i) {
+    names << QString::fromStdWString(SectionName(i) + L"/" + KeyName(i));
+  }
   int run = 0;
   for (auto _ : state) {
     state.PauseTiming();
@@ -94,9 +100,8 @@ void SettingsRead(benchmark::State& state, int count) {
     QFile::copy(source, path);
     state.ResumeTiming();
     QSettings settings(path, QSettings::IniFormat);
-    for (int i = 0; i < count; ++i) {
-      const std::wstring name = SectionName(i) + L"/" + KeyName(i);
-      benchmark::DoNotOptimize(settings.value(QString::fromStdWString(name)).toString());
+    for (const QString& name : names) {
+      benchmark::DoNotOptimize(settings.value(name).toString());
     }
   }
 }

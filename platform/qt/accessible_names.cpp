@@ -94,13 +94,14 @@ void NameControls(const Peer& dialog) {
 
 void UpdateAccessibleName(const Peer& control) {
   const Peer* dialog = FindPeer(control.parent);
-  if (dialog != nullptr) Name(control, TextBefore(*dialog, PlaceIn(*dialog, control.handle)));
+  if (dialog == nullptr || dialog->namesLater) return;
+  Name(control, TextBefore(*dialog, PlaceIn(*dialog, control.handle)));
 }
 
 void UpdateNamesAfter(const Peer& changed) {
   UpdateAccessibleName(changed);
   const Peer* dialog = FindPeer(changed.parent);
-  if (dialog == nullptr || !NamesOthers(changed)) return;
+  if (dialog == nullptr || dialog->namesLater || !NamesOthers(changed)) return;
   const std::size_t place = PlaceIn(*dialog, changed.handle);
   for (std::size_t i = place + 1; i < dialog->children.size(); ++i) {
     const Peer* control = FindPeer(dialog->children[i].window);

@@ -14,14 +14,22 @@ namespace {
 
 constexpr wchar_t kDialogClass[] = L"#32770";
 
-/// The averages of the interface font, which is the font of every dialog here.
+/// The averages of the interface font, which is the font of every dialog here. Kept until the font
+/// changes, because every dialog and page asks.
 void MeasureUnits(DialogPeer& dialog) {
-  const QFontMetrics metrics(ToQtFont(CFont()));
-  QString letters;
-  for (char letter = 'A'; letter <= 'Z'; ++letter) letters += QLatin1Char(letter);
-  for (char letter = 'a'; letter <= 'z'; ++letter) letters += QLatin1Char(letter);
-  dialog.baseX = (metrics.horizontalAdvance(letters) / 26 + 1) / 2;
-  dialog.baseY = metrics.height();
+  static QFont measured;
+  static QSize units;
+  const QFont font = ToQtFont(CFont());
+  if (units.isEmpty() || font != measured) {
+    const QFontMetrics metrics(font);
+    QString letters;
+    for (char letter = 'A'; letter <= 'Z'; ++letter) letters += QLatin1Char(letter);
+    for (char letter = 'a'; letter <= 'z'; ++letter) letters += QLatin1Char(letter);
+    units = QSize((metrics.horizontalAdvance(letters) / 26 + 1) / 2, metrics.height());
+    measured = font;
+  }
+  dialog.baseX = units.width();
+  dialog.baseY = units.height();
 }
 
 std::optional<DialogTemplate> LoadTemplate(UINT id) {
@@ -59,7 +67,7 @@ class DialogBuilder {
     }
     DialogPeer& peer = *FindPeerAs<DialogPeer>(window_);
     GroupRadioButtons(peer);
-    NameControls(peer);
+    peer.namesLater = true;
     ArrangeTabOrder(window_);
     return window_;
   }
@@ -141,9 +149,12 @@ void SetUp(HWND window) {
   const HWND firstWindow = firstPeer != nullptr ? firstPeer->handle : nullptr;
   const bool takesFocus =
       ::SendMessage(window, WM_INITDIALOG, reinterpret_cast<WPARAM>(firstWindow), 0) != FALSE;
-  peer = FindPeer(window);
-  if (peer == nullptr) return;
-  UpdateTrackSize(*peer);
+  Peer* dialog = FindPeer(window);
+  if (dialog == nullptr) return;
+  // Once, with the translated texts and the controls that the set-up made.
+  dialog->namesLater = false;
+  NameControls(*dialog);
+  UpdateTrackSize(*dialog);
   peer = FindPeer(window);
   // The focus of a page stays with the tree or list that chose the page.
   if (peer == nullptr || peer->parent != nullptr || !takesFocus) return;

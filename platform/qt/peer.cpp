@@ -121,7 +121,7 @@ std::wstring Peer::Text() const { return text; }
 void Peer::SetText(const std::wstring& newText) { text = newText; }
 
 void Peer::SetFont(const QFont& font) {
-  if (widget != nullptr) widget->setFont(font);
+  if (widget != nullptr && widget->font() != font) widget->setFont(font);
 }
 
 LRESULT SendFromToolkit(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

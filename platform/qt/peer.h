@@ -64,6 +64,7 @@ struct Peer {
   std::wstring text;                  ///< The text of a window whose widget shows none.
   int modalDepth = 0;                 ///< Number of modal runs when the window was made.
   bool exchanging = false;            ///< Inside UpdateData; the notifications of controls rest.
+  bool namesLater = false;  ///< A dialog in its set-up; its controls are named at the end of it.
   bool destroying = false;
   bool defaultReached = false;      ///< WM_PAINT or WM_CONTEXTMENU is left to the widget.
   std::unique_ptr<QObject> events;  ///< Makes messages of the widget's events.

@@ -1,6 +1,6 @@
 #include "pages/general/folder_rows_page.h"
 
-#include <ranges>
+#include <sstream>
 
 #include "controls/browse_for_folder.h"
 #include "controls/execute_item.h"
@@ -30,8 +30,9 @@ std::wstring ExpandedText(const CEdit& edit) {
 /// it tells the user that there is nothing to open.
 std::vector<std::wstring> SplitPaths(const std::wstring& text) {
   std::vector<std::wstring> paths;
-  for (const auto part : std::views::split(text, kSeparator)) {
-    if (!part.empty()) paths.emplace_back(part.begin(), part.end());
+  std::wistringstream parts(text);
+  for (std::wstring part; std::getline(parts, part, kSeparator);) {
+    if (!part.empty()) paths.push_back(part);
   }
   if (paths.empty()) paths.emplace_back();
   return paths;

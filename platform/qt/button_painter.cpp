@@ -43,8 +43,7 @@ bool IsIdle(const QStyleOptionButton& option) {
 }  // namespace
 
 ButtonPainter::ButtonPainter(const QPushButton& widget)
-    : widget_(widget),
-      peer_(PeerOf<ButtonPeer>(&widget)),
+    : peer_(PeerOf<ButtonPeer>(&widget)),
       attached_(peer_ != nullptr ? dynamic_cast<CBCGPButton*>(peer_->attached) : nullptr) {}
 
 void ButtonPainter::Paint(QStylePainter& painter, QStyleOptionButton option) const {

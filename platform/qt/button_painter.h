@@ -23,7 +23,6 @@ class ButtonPainter {
   void ApplyFlatStyle(QStylePainter& painter, QStyleOptionButton& option) const;
   void PaintFace(QStylePainter& painter, const QStyleOptionButton& option, UINT state) const;
 
-  const QPushButton& widget_;
   const ButtonPeer* peer_;
   CBCGPButton* attached_;  ///< Null for a button of the plain class.
 };

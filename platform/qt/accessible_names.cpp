@@ -4,19 +4,6 @@
 
 namespace {
 
-bool IsNamed(const Peer& control) {
-  switch (control.kind) {
-    case ControlKind::Dialog:
-    case ControlKind::Label:
-    case ControlKind::Separator:
-    case ControlKind::Picture:
-    case ControlKind::Frame:
-      return false;
-    default:
-      return true;
-  }
-}
-
 /// Whether the window text is what the user enters, which names nothing.
 bool TextIsContent(const Peer& control) {
   return control.kind == ControlKind::Edit || control.kind == ControlKind::Combo;
@@ -58,7 +45,7 @@ QString TextBefore(const Peer& dialog, std::size_t place) {
 }
 
 void Name(const Peer& control, const QString& before) {
-  if (control.widget == nullptr || !IsNamed(control)) return;
+  if (control.widget == nullptr || !IsInteractive(control)) return;
   QString own = ToQt(control.spokenName);
   if (own.isEmpty() && !TextIsContent(control)) own = SpokenText(control);
   const QString& name = own.isEmpty() ? before : own;

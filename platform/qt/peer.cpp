@@ -94,6 +94,19 @@ void SetPeerKind(Peer& peer, ControlKind kind) {
   UpdateAccessibleName(peer);
 }
 
+bool IsInteractive(const Peer& peer) {
+  switch (peer.kind) {
+    case ControlKind::Dialog:
+    case ControlKind::Label:
+    case ControlKind::Separator:
+    case ControlKind::Picture:
+    case ControlKind::Frame:
+      return false;
+    default:
+      return true;
+  }
+}
+
 LRESULT Peer::DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SETFONT: {

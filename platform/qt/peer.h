@@ -100,6 +100,9 @@ HWND RegisterPeer(std::unique_ptr<Peer> peer);
 /// Sets the kind and its property, as when a class is attached that shows itself as something else.
 void SetPeerKind(Peer& peer, ControlKind kind);
 
+/// Whether a person can act on the control; false for dialogs and for what only shows something.
+bool IsInteractive(const Peer& peer);
+
 /// Destroys the window and its descendants: WM_DESTROY, then the handles become stale, then the
 /// widget is hidden and deleted at the next turn of the event loop.
 void DestroyPeer(HWND window);

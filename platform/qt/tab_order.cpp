@@ -6,19 +6,6 @@
 
 namespace {
 
-bool TakesKeys(const Peer& peer) {
-  switch (peer.kind) {
-    case ControlKind::Dialog:
-    case ControlKind::Label:
-    case ControlKind::Separator:
-    case ControlKind::Picture:
-    case ControlKind::Frame:
-      return false;
-    default:
-      return true;
-  }
-}
-
 void SetTabStop(QWidget& widget, bool stops) {
   const int policy = widget.focusPolicy();
   const int wanted = stops ? policy | Qt::TabFocus : policy & ~Qt::TabFocus;
@@ -49,7 +36,7 @@ void Collect(const Peer& dialog, std::vector<QWidget*>& chain) {
       CollectPages(children, chain);
       pagesDone = true;
     }
-    if (TakesKeys(*child)) chain.push_back(child->widget);
+    if (IsInteractive(*child)) chain.push_back(child->widget);
   }
   if (!pagesDone) CollectPages(children, chain);
 }
@@ -89,7 +76,7 @@ void ArrangeTabOrder(HWND window) {
 }
 
 void ApplyTabStop(const Peer& control) {
-  if (!TakesKeys(control) || control.widget == nullptr) return;
+  if (!IsInteractive(control) || control.widget == nullptr) return;
   SetTabStop(*control.widget, (control.style & WS_TABSTOP) != 0);
 }
 

@@ -11,12 +11,16 @@
 #include "pages/formats/hash_page.h"
 #include "pages/formats/regex_page.h"
 #include "pages/general/alerts_page.h"
+#include "pages/general/colour_page.h"
 #include "pages/general/email_page.h"
 #include "pages/general/folders_page.h"
 #include "pages/general/general_group_page.h"
 #include "pages/general/history_page.h"
+#include "pages/general/internal_viewer_page.h"
+#include "pages/general/localization_page.h"
 #include "pages/general/memory_page.h"
 #include "pages/general/search_page.h"
+#include "pages/general/user_interface_page.h"
 #include "resources/text_ids.h"
 
 namespace {
@@ -78,11 +82,16 @@ constexpr PageRow kPages[] = {
     Leaf<CConfigEntrySearchDlg>(kGeneral, TextId::kPageSearch, 27),
     LaidOut<CConfigEntryGeneralEmailDlg>(kGeneral, TextId::kPageEmail, 29),
     LaidOut<CConfigEntryGeneralAlertsDlg>(kGeneral, TextId::kPageAlerts, 12),
+    Leaf<CConfigEntryLocalizationDlg>(kGeneral, TextId::kPageLocalization, 26),
+    LaidOut<CConfigEntryColorDlg>(kGeneral, TextId::kPageColours, 30),
+    Leaf<CConfigEntryUserInterfaceDlg>(kGeneral, TextId::kPageUserInterface, 24),
 
     Leaf<CConfigEntryExprBooleanDlg>(kExpressions, TextId::kPageBoolean, 19),
     Leaf<CConfigEntryExprDOSDlg>(kExpressions, TextId::kPageDos, 23),
     Leaf<CConfigEntryExprRegExDlg>(kExpressions, TextId::kPageRegex, 21),
     Leaf<CConfigEntryExprHashDlg>(kExpressions, TextId::kPageHash, 20),
+
+    Leaf<CConfigEntryInternalViewerDlg>(kEditor, TextId::kPageInternalViewer, 25),
 
     LaidOut<CConfigEntryGeneralFoldersDlg>(kAdvanced, TextId::kPageFolders, 11),
     Leaf<CConfigEntryMemMgrDlg>(kAdvanced, TextId::kPageMemory, 28),

@@ -1,6 +1,8 @@
 #include "core/page_values.h"
 
-#include "platform/controls.h"
+#include <algorithm>
+
+#include "platform/bcg.h"
 
 namespace page_values {
 
@@ -16,8 +18,16 @@ void CheckRange(CDataExchange* exchange, const Control& control, int value) {
   DDV_MinMaxInt(exchange, value, range.minimum, range.maximum);
 }
 
+/// The id whose label stands for the given one.
+int ShownId(const Control& control, int id) {
+  const bool offered =
+      control.offered.empty() || std::ranges::find(control.offered, id) != control.offered.end();
+  const bool known = std::ranges::find(control.labels, id, &LabelRow::id) != control.labels.end();
+  return known && !offered ? control.offered.front() : id;
+}
+
 void ExchangeLabel(CDataExchange* exchange, const Control& control, int& id) {
-  CString label = LabelOf(control.labels, id);
+  CString label = LabelOf(control.labels, ShownId(control, id));
   DDX_CBStringExact(exchange, control.id, label);
   id = IdOf(control.labels, label);
 }
@@ -30,6 +40,12 @@ void ExchangeBits(CDataExchange* exchange, const Control& control, int& bits) {
     if (state == BST_CHECKED) shown |= 1 << bit;
   }
   bits = shown;
+}
+
+void ExchangeColour(CDataExchange* exchange, const Control& control, int& number) {
+  auto colour = static_cast<COLORREF>(number);
+  DDX_ColorButton(exchange, control.id, colour);
+  number = static_cast<int>(colour);
 }
 
 void ExchangeNumber(CDataExchange* exchange, const Row& row, int& stored) {
@@ -51,6 +67,9 @@ void ExchangeNumber(CDataExchange* exchange, const Row& row, int& stored) {
       break;
     case Kind::kBits:
       ExchangeBits(exchange, control, shown);
+      break;
+    case Kind::kColour:
+      ExchangeColour(exchange, control, shown);
       break;
     default:
       DDX_Text(exchange, control.id, shown);

@@ -57,7 +57,7 @@ struct Range {
   int onlyWhileChecked = 0;
 };
 
-enum class Kind : std::uint8_t { kCheck, kRadio, kNumber, kSlider, kEdit, kLabels, kBits };
+enum class Kind : std::uint8_t { kCheck, kRadio, kNumber, kSlider, kEdit, kLabels, kBits, kColour };
 
 /// Which control shows a value, and how.
 struct Control {
@@ -69,6 +69,7 @@ struct Control {
   bool ranged = false;
   Range range{};
   std::span<const LabelRow> labels{};
+  std::span<const std::int32_t> offered{};  ///< Ids that can be chosen, in order; empty for all.
   std::span<const int> boxes{};
 };
 
@@ -103,10 +104,18 @@ constexpr Control Edit(int id) { return {Kind::kEdit, id}; }
 constexpr Control Labels(int id, std::span<const LabelRow> labels) {
   return {.kind = Kind::kLabels, .id = id, .labels = labels};
 }
+/// As Labels, with only these ids to choose from, in this order. Another id of the table is shown
+/// as the first of them.
+constexpr Control SomeLabels(int id, std::span<const LabelRow> labels,
+                             std::span<const std::int32_t> offered) {
+  return {.kind = Kind::kLabels, .id = id, .labels = labels, .offered = offered};
+}
 /// One check box for each bit of an integer, lowest bit first. Other bits are not carried over.
 constexpr Control Bits(std::span<const int> boxes) {
   return {.kind = Kind::kBits, .id = boxes[0], .boxes = boxes};
 }
+/// A colour button for a COLORREF kept as an integer.
+constexpr Control Colour(int id) { return {.kind = Kind::kColour, .id = id}; }
 
 struct Row {
   const wchar_t* section = L"";
@@ -141,6 +150,15 @@ struct TableView {
 
 namespace checks {
 
+consteval bool OffersKnownIds(const Control& control) {
+  for (const std::int32_t id : control.offered) {
+    bool known = false;
+    for (const LabelRow& label : control.labels) known = known || label.id == id;
+    if (!known) return false;
+  }
+  return true;
+}
+
 consteval bool Fits(const Row& row, int index) {
   const bool isText = row.stored.readAs == Type::kText;
   const bool isBool = row.stored.readAs == Type::kBool;
@@ -158,9 +176,10 @@ consteval bool Fits(const Row& row, int index) {
       return isText;
     case Kind::kNumber:
     case Kind::kSlider:
+    case Kind::kColour:
       return !isText && !isBool;
     case Kind::kLabels:
-      return !isText && !isBool && !control.labels.empty();
+      return !isText && !isBool && !control.labels.empty() && OffersKnownIds(control);
     case Kind::kBits:
       return !isText && !isBool && control.boxes.size() <= 31;
   }

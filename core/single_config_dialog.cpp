@@ -1,8 +1,17 @@
 #include "core/single_config_dialog.h"
 
 #include "core/page_host.h"
+#include "foundation/catch_chain.h"
+#include "foundation/language.h"
 #include "platform/exceptions.h"
 #include "resources/resource.h"
+#include "resources/text_ids.h"
+
+namespace {
+
+constexpr const wchar_t* kSource = L"Brisquel/SingleConfigDialog";
+
+}  // namespace
 
 CSingleConfigDialog::CSingleConfigDialog(StoreHandle config,
                                          std::shared_ptr<INTERNAL_IFC::IConfigEntry> entry,
@@ -13,12 +22,21 @@ CSingleConfigDialog::CSingleConfigDialog(StoreHandle config,
 
 BOOL CSingleConfigDialog::OnInitDialog() {
   CBaseTranslateDialog::OnInitDialog();
+  RunGuarded([this] { ShowPage(); }, MakeMsgBoxDisplay, CString(), kSource);
+  return TRUE;
+}
+
+void CSingleConfigDialog::ShowPage() {
   page_ = entry_->GetDialog(this, this);
-  if (page_ == nullptr) return TRUE;
+  if (page_ == nullptr) return;
   if (hook_) hook_(page_);
   AdoptPage(*page_);
   PlacePage(*page_, frame_, *this);
-  return TRUE;
+}
+
+void CSingleConfigDialog::OnOK() {
+  RunGuarded([this] { CBaseTranslateDialog::OnOK(); }, MakeMsgBoxDisplay,
+             LanguageString(TextId::kSavingConfiguration), kSource);
 }
 
 void CSingleConfigDialog::DoDataExchange(CDataExchange* exchange) {

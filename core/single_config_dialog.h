@@ -24,10 +24,14 @@ class CSingleConfigDialog : public CBaseTranslateDialog, public INTERNAL_IFC::IC
 
  protected:
   BOOL OnInitDialog() override;
+  /// What the exchange raises is shown to the user and keeps the dialog open.
+  void OnOK() override;
   /// Runs the page's own exchange in the same direction; its failure is this exchange's.
   void DoDataExchange(CDataExchange* exchange) override;
 
  private:
+  void ShowPage();
+
   StoreHandle config_;
   std::shared_ptr<INTERNAL_IFC::IConfigEntry> entry_;
   std::shared_ptr<CDialog> page_;

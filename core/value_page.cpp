@@ -7,15 +7,26 @@
 
 namespace {
 
-bool ShowsLabels(const page_values::Row& row) {
-  return row.control.kind == page_values::Kind::kLabels;
+using page_values::Kind;
+
+std::size_t Count(const PageDescription& description, Kind kind) {
+  const auto isOfKind = [kind](const page_values::Row& row) { return row.control.kind == kind; };
+  return static_cast<std::size_t>(std::ranges::count_if(description.values.rows, isOfKind));
 }
 
-/// The labels in table order; each row carries its id for pages that act on a choice.
-void FillWithLabels(CComboBox& combo, std::span<const LabelRow> labels) {
-  for (const LabelRow& label : labels) {
-    const int row = combo.AddString(LabelText(label));
-    combo.SetItemData(row, static_cast<DWORD_PTR>(label.id));
+/// Each row carries its id for pages that act on a choice.
+void AddLabel(CComboBox& combo, const LabelRow& label) {
+  const int row = combo.AddString(LabelText(label));
+  combo.SetItemData(row, static_cast<DWORD_PTR>(label.id));
+}
+
+/// The labels in table order, or those that are offered in the order of the offer.
+void FillWithLabels(CComboBox& combo, const page_values::Control& control) {
+  if (control.offered.empty()) {
+    for (const LabelRow& label : control.labels) AddLabel(combo, label);
+  }
+  for (const std::int32_t id : control.offered) {
+    AddLabel(combo, *std::ranges::find(control.labels, id, &LabelRow::id));
   }
 }
 
@@ -25,8 +36,8 @@ CValuePage::CValuePage(UINT templateId, const PageDescription& description)
     : CConfigDialog(templateId),
       description_(description),
       headings_(description.headings.size()),
-      labelCombos_(
-          static_cast<std::size_t>(std::ranges::count_if(description.values.rows, ShowsLabels))) {}
+      labelCombos_(Count(description, Kind::kLabels)),
+      colourButtons_(Count(description, Kind::kColour)) {}
 
 BOOL CValuePage::OnInitDialog() {
   CConfigDialog::OnInitDialog();
@@ -37,15 +48,18 @@ BOOL CValuePage::OnInitDialog() {
 void CValuePage::DoDataExchange(CDataExchange* exchange) {
   CConfigDialog::DoDataExchange(exchange);
   BindHeadings(exchange);
-  BindLabelCombos(exchange);
+  BindValueControls(exchange);
   BindMembers(exchange);
   const StoreHandle store = StoreForExchange();
   if (store == nullptr) return;
+  BeginExchange(exchange, store);
   page_values::Values values(description_.values, *store);
   values.Exchange(exchange);
-  if (!exchange->m_bSaveAndValidate) return;
-  CheckValues(exchange);
-  values.Write(*store);
+  if (exchange->m_bSaveAndValidate) {
+    CheckValues(exchange);
+    values.Write(*store);
+  }
+  EndExchange(exchange, store);
 }
 
 BOOL CValuePage::OnCommand(WPARAM wParam, LPARAM lParam) {
@@ -81,14 +95,17 @@ void CValuePage::BindHeadings(CDataExchange* exchange) {
   }
 }
 
-void CValuePage::BindLabelCombos(CDataExchange* exchange) {
+void CValuePage::BindValueControls(CDataExchange* exchange) {
   auto combo = labelCombos_.begin();
+  auto button = colourButtons_.begin();
   for (const page_values::Row& row : description_.values.rows) {
-    if (!ShowsLabels(row)) continue;
+    const page_values::Control& control = row.control;
+    if (control.kind == Kind::kColour) DDX_Control(exchange, control.id, *button++);
+    if (control.kind != Kind::kLabels) continue;
     // Filled before the first load, which selects by text.
     const bool first = combo->m_hWnd == nullptr;
-    DDX_Control(exchange, row.control.id, *combo);
-    if (first) FillWithLabels(*combo, row.control.labels);
+    DDX_Control(exchange, control.id, *combo);
+    if (first) FillWithLabels(*combo, control);
     ++combo;
   }
 }

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "controls/config_color_button.h"
 #include "controls/custom_combo_box.h"
 #include "controls/separator.h"
 #include "core/config_dialog.h"
@@ -58,16 +59,24 @@ class CValuePage : public CConfigDialog {
   /// being edited answers with that store. Empty when there is none.
   virtual StoreHandle GetValueStore() { return GetWorkingStore(); }
 
+  /// Values of the page's own beside those of its table: called with the store before the table's
+  /// values are read, and after they have been shown or, when saving, written.
+  virtual void BeginExchange(CDataExchange*, const StoreHandle&) {}
+  virtual void EndExchange(CDataExchange*, const StoreHandle&) {}
+
   /// What a table cannot say about valid values: called when saving, after all controls have been
   /// exchanged and before anything is written. Tells the user and calls `exchange->Fail()`.
   virtual void CheckValues(CDataExchange*) {}
 
- private:
+  /// GetValueStore's, or what the page's description puts in its place; empty when it skips.
   StoreHandle StoreForExchange();
+
+ private:
   void BindHeadings(CDataExchange* exchange);
-  void BindLabelCombos(CDataExchange* exchange);
+  void BindValueControls(CDataExchange* exchange);
 
   PageDescription description_;
   std::vector<CSeparator> headings_;
   std::vector<CCustomComboBox> labelCombos_;
+  std::vector<CConfigColorButton> colourButtons_;
 };

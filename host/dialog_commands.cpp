@@ -27,6 +27,10 @@ int ShowOrPicture(Environment& environment, const QString& entry) {
   return HasDisplay() ? Show(environment, entry) : RunUnseenDialog(environment, entry);
 }
 
+std::wstring LanguageOf(Environment& environment) {
+  return environment.GetStores().Get(kConfig).ReadString(L"Language", L"File", {});
+}
+
 }  // namespace
 
 int RunConfig(Environment& environment) {
@@ -44,4 +48,13 @@ int RunClearHistory(Environment& environment) {
 
 int RunEditHistory(Environment& environment) {
   return ShowOrPicture(environment, QStringLiteral("OpenEditHistoryDialog"));
+}
+
+int RunLanguage(Environment& environment) {
+  const std::wstring before = LanguageOf(environment);
+  const int status = ShowOrPicture(environment, QStringLiteral("OpenLanguageDialog"));
+  if (status == kExitDone && (LanguageOf(environment) != before || !HasDisplay())) {
+    Print(QStringLiteral("Another language takes effect at the next start.\n"));
+  }
+  return status;
 }

@@ -8,3 +8,5 @@ int RunConfig(Environment& environment);
 int RunMessage(Environment& environment);
 int RunClearHistory(Environment& environment);
 int RunEditHistory(Environment& environment);
+/// Says when another language takes effect.
+int RunLanguage(Environment& environment);

@@ -44,6 +44,10 @@ BRISQUEL_API Status OpenClearHistoryDialog(HWND parent, CClearHistorySettings* s
 BRISQUEL_API Status OpenEditHistoryDialog(HWND parent, const StoreHandle& history,
                                           const StoreHandle& config);
 
+/// Lets the user choose the language. After status 0 `config` names the file of the language
+/// chosen, for the next start of the application; after 1 it is as it was.
+BRISQUEL_API Status OpenLanguageDialog(const StoreHandle& config);
+
 /// The exported functions for a caller that loads the library at run time.
 struct EntryPoints {
   Status (*OpenConfigDialog)(HWND, const StoreHandle&, const StoreHandle&, const StoreHandle&,
@@ -51,6 +55,7 @@ struct EntryPoints {
   Status (*ShowMessage)(HWND);
   Status (*OpenClearHistoryDialog)(HWND, CClearHistorySettings*, const StoreHandle&);
   Status (*OpenEditHistoryDialog)(HWND, const StoreHandle&, const StoreHandle&);
+  Status (*OpenLanguageDialog)(const StoreHandle&);
 };
 
 }  // namespace BRISQUEL

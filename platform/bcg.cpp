@@ -109,3 +109,13 @@ void CBCGPColorButton::OnDrawFace(CDC* dc, const CRect& rect, UINT state) {
   face.DeflateRect(kColourMargin, kColourMargin);
   dc->FillSolidRect(face, (state & ODS_DISABLED) != 0 ? GetSysColor(COLOR_BTNFACE) : colour_);
 }
+
+void DDX_ColorButton(CDataExchange* exchange, int id, COLORREF& value) {
+  auto* button = dynamic_cast<CBCGPColorButton*>(exchange->PrepareCtrl(id));
+  if (button == nullptr) return;
+  if (exchange->m_bSaveAndValidate) {
+    value = button->GetColor();
+  } else {
+    button->SetColor(value);
+  }
+}

@@ -107,3 +107,7 @@ class CBCGPColorButton : public CBCGPButton {
   COLORREF colour_ = 0;
   CString other_;
 };
+
+/// Exchanges the colour of the colour button that is attached to control `id`; one without a colour
+/// button is left alone.
+void DDX_ColorButton(CDataExchange* exchange, int id, COLORREF& value);

@@ -14,15 +14,19 @@ constexpr unsigned kGroupGeneral = 76;
 
 // Titles of pages.
 constexpr unsigned kPageFolders = 46;
+constexpr unsigned kPageInternalViewer = 53;
 constexpr unsigned kPageBoolean = 70;
 constexpr unsigned kPageDos = 71;
 constexpr unsigned kPageRegex = 72;
 constexpr unsigned kPageHash = 73;
 constexpr unsigned kPageHistory = 77;
 constexpr unsigned kPageAlerts = 81;
+constexpr unsigned kPageUserInterface = 82;
 constexpr unsigned kPageSearch = 162;
+constexpr unsigned kPageLocalization = 440;
 constexpr unsigned kPageMemory = 489;
 constexpr unsigned kPageEmail = 647;
+constexpr unsigned kPageColours = 757;
 
 /// Format of the caption above a page; its one argument is the page's title.
 constexpr unsigned kPageCaption = 459;
@@ -50,6 +54,19 @@ constexpr unsigned kColumnSize = 373;
 constexpr unsigned kColumnModified = 384;
 constexpr unsigned kColumnFileName = 445;
 constexpr unsigned kColumnRelevance = 925;
+
+// Themes of the main window, and the tabs that it can show first.
+constexpr unsigned kThemeSystem = 18;
+constexpr unsigned kThemeClassic = 19;
+constexpr unsigned kThemeLight = 20;
+constexpr unsigned kThemeDark = 21;
+constexpr unsigned kThemeHighContrast = 22;
+constexpr unsigned kThemeBlue = 23;
+constexpr unsigned kTabHits = 114;
+constexpr unsigned kTabText = 376;
+constexpr unsigned kTabSummary = 29;
+constexpr unsigned kTabProperties = 389;
+constexpr unsigned kTabPreview = 478;
 
 // Names of histories; that of file names is the name of their column. The names of three are put
 // together of two texts each.

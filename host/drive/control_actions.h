@@ -22,6 +22,9 @@ void TypeKeys(QWidget* field, const QString& text);
 /// `index` or `text` names the row.
 void PickRow(QWidget* control, std::optional<int> index, const QString& text);
 void SlideTo(QWidget* control, int value);
+/// Chooses a COLORREF in a colour button: a standard colour in its palette, any other in the full
+/// colour dialog behind it.
+void ChooseColour(QWidget* control, int value);
 
 /// Throws RequestError unless the control is of one of these kinds (between blanks).
 void CheckKind(const QWidget* control, const QString& kinds, const QString& verb);

@@ -31,6 +31,8 @@ constexpr Entry kEntries[] = {
        return library.OpenEditHistoryDialog(nullptr, stores.Handle(kHistory),
                                             stores.Handle(kConfig));
      }},
+    {"OpenLanguageDialog", [](const BRISQUEL::EntryPoints& library, const Stores& stores,
+                              int) { return library.OpenLanguageDialog(stores.Handle(kConfig)); }},
 };
 
 }  // namespace

@@ -12,7 +12,7 @@
 
 namespace {
 
-enum class Kind { Integer, Text, Bool, Value, Texts };
+enum class Kind { Integer, Text, Bool, Value, Texts, Integers };
 
 struct Argument {
   const char* name;
@@ -44,6 +44,7 @@ const std::vector<Verb>& Verbs() {
        {"index", "text"},
        true},
       {"slide", {{"value", Kind::Integer}}, {}, true},
+      {"colour", {{"value", Kind::Integer}}, {}, true},
       {"tree", {}},
       {"select", {{"page", Kind::Integer, false}, {"row", Kind::Integer, false}}, {"page", "row"}},
       {"press", {{"button", Kind::Text}}},
@@ -72,6 +73,7 @@ const std::vector<Verb>& Verbs() {
         {"type", Kind::Text},
         {"value", Kind::Value}}},
       {"dump", {{"store", Kind::Text}}},
+      {"terms", {{"set", Kind::Integers, false}}},
       {"log", {}},
       {"clipboard", {}},
       {"outside", {}},
@@ -88,11 +90,13 @@ bool IsInteger(const QJsonValue& value) {
          number <= std::numeric_limits<int>::max();
 }
 
-bool IsListOfTexts(const QJsonValue& value) {
+template <class Check>
+bool IsListOf(const QJsonValue& value, Check check) {
   const QJsonArray list = value.toArray();
-  return value.isArray() && std::all_of(list.begin(), list.end(),
-                                        [](const QJsonValue& item) { return item.isString(); });
+  return value.isArray() && std::all_of(list.begin(), list.end(), check);
 }
+
+bool IsText(const QJsonValue& value) { return value.isString(); }
 
 bool Fits(Kind kind, const QJsonValue& value) {
   switch (kind) {
@@ -105,7 +109,9 @@ bool Fits(Kind kind, const QJsonValue& value) {
     case Kind::Value:
       return value.isBool() || value.isString() || IsInteger(value);
     case Kind::Texts:
-      return IsListOfTexts(value);
+      return IsListOf(value, IsText);
+    case Kind::Integers:
+      return IsListOf(value, IsInteger);
   }
   return false;
 }
@@ -122,6 +128,8 @@ QString KindName(Kind kind) {
       return QStringLiteral("true, false, a whole number of 32 bits or a text");
     case Kind::Texts:
       return QStringLiteral("a list of texts");
+    case Kind::Integers:
+      return QStringLiteral("a list of whole numbers of 32 bits");
   }
   return {};
 }

@@ -14,6 +14,7 @@
 #include "host/drive/request.h"
 #include "host/drive/request_error.h"
 #include "host/drive/store_verbs.h"
+#include "host/drive/term_verb.h"
 #include "host/drive/tree_nodes.h"
 #include "host/drive/window_actions.h"
 #include "host/drive/window_stack.h"
@@ -97,6 +98,12 @@ Plan Pick(Context& context, const Request& request) {
 Plan Slide(Context& context, const Request& request) {
   return OnControl(context, request,
                    [value = request.Int("value")](QWidget* control) { SlideTo(control, value); });
+}
+
+Plan Colour(Context& context, const Request& request) {
+  return OnControl(context, request, [value = request.Int("value")](QWidget* control) {
+    ChooseColour(control, value);
+  });
 }
 
 Plan Tree(Context& context, const Request&) {
@@ -214,6 +221,10 @@ Plan Dump(Context& context, const Request& request) {
   return Reply({{"values", DumpStore(context.environment.GetStores(), request)}});
 }
 
+Plan Terms(Context& context, const Request& request) {
+  return Reply({{"colours", TermColours(context.environment.GetStores(), request)}});
+}
+
 struct Verb {
   const char* name;
   Plan (*make)(Context&, const Request&);
@@ -228,6 +239,7 @@ constexpr Verb kVerbs[] = {
     {"type", Type},
     {"pick", Pick},
     {"slide", Slide},
+    {"colour", Colour},
     {"tree", Tree},
     {"select", Select},
     {"press", Press},
@@ -243,6 +255,7 @@ constexpr Verb kVerbs[] = {
     {"read", Read},
     {"write", Write},
     {"dump", Dump},
+    {"terms", Terms},
     {"log", Log},
     {"clipboard", Clipboard},
     {"wait", Wait},

@@ -1,5 +1,7 @@
 #include "hollerin/default_configuration.h"
 
+#include "platform/types.h"
+
 namespace HOLLERIN {
 namespace {
 
@@ -8,6 +10,11 @@ struct Row {
   const wchar_t* key;
   std::variant<bool, std::int32_t> value;
 };
+
+/// A colour as stores keep it.
+constexpr std::int32_t Colour(unsigned red, unsigned green, unsigned blue) {
+  return static_cast<std::int32_t>(RGB(red, green, blue));
+}
 
 constexpr Row kConfiguration[] = {
     // Search modes, and the sort that follows the search: column -1 is none.
@@ -53,6 +60,34 @@ constexpr Row kConfiguration[] = {
     {L"Options", L"UseCharacterCollation", false},
     {L"Options", L"RegExMaxLines", 1000},
     {L"Options", L"HashingAlgorithms", 1},
+    // The main window.
+    {L"UserInterface", L"UITheme", 0},
+    {L"UserInterface", L"DefaultTab", 0},
+    {L"UserInterface", L"UITabbed", true},
+    {L"UserInterface", L"UITaskbarPreviews", false},
+    {L"UserInterface", L"ShowCVTabs", true},
+    // How found text is shown.
+    {L"Options", L"TabSize", 4},
+    {L"Window Settings", L"HighlightColor", Colour(192, 0, 0)},
+    {L"Window Settings", L"HighlightBold", true},
+    {L"Window Settings", L"HighlightUnder", false},
+    {L"Window Settings", L"HighlightBack", false},
+    {L"TextTab Settings", L"HighlightColor", Colour(192, 0, 0)},
+    {L"TextTab Settings", L"HighlightBold", true},
+    {L"TextTab Settings", L"HighlightUnder", false},
+    {L"TextTab Settings", L"OriginalLineColor", Colour(0, 0, 0)},
+    {L"TextTab Settings", L"SecondaryLineColor", Colour(96, 96, 96)},
+    // The terms of a search: hues far apart, neighbours the farthest, dark enough for white paper.
+    {L"SearchTerms", L"Color0", Colour(192, 0, 0)},
+    {L"SearchTerms", L"Color1", Colour(0, 92, 197)},
+    {L"SearchTerms", L"Color2", Colour(0, 122, 51)},
+    {L"SearchTerms", L"Color3", Colour(178, 86, 0)},
+    {L"SearchTerms", L"Color4", Colour(122, 31, 162)},
+    {L"SearchTerms", L"Color5", Colour(0, 128, 140)},
+    {L"SearchTerms", L"Color6", Colour(214, 0, 120)},
+    {L"SearchTerms", L"Color7", Colour(112, 112, 0)},
+    {L"SearchTerms", L"Color8", Colour(80, 80, 80)},
+    {L"SearchTerms", L"Color9", Colour(34, 28, 110)},
 };
 
 /// A folder beside the program of a portable installation, and elsewhere. Empty leaves it to the

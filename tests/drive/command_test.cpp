@@ -103,8 +103,8 @@ TEST(Commands, HelpNamesEveryCommandAndStatus) {
   const Finished help = RunHost(data, {"list", "--help"});
   EXPECT_EQ(help.status, 0);
   for (const char* part :
-       {"config", "message", "clear-history", "edit-history", "get", "set", "list", "export",
-        "import", "tour", "drive", "--data", "--machine", "--lang-dir", "Exit status"}) {
+       {"config", "message", "clear-history", "edit-history", "language", "get", "set", "list",
+        "export", "import", "tour", "drive", "--data", "--machine", "--lang-dir", "Exit status"}) {
     EXPECT_TRUE(Mentions(help.output, part)) << part;
   }
 }
@@ -135,13 +135,22 @@ TEST(Commands, TheTourChangesNothingAndFollowsTheResolution) {
   for (const char* dpi : {"96", "192"}) {
     const Finished finished = RunHost(data, {"tour", data / dpi, "--dpi", dpi});
     EXPECT_EQ(finished.status, 0) << finished.errors;
-    for (const char* name : {"main-27-search", "message", "clear-history", "edit-history"}) {
+    for (const char* name :
+         {"main-27-search", "message", "clear-history", "edit-history", "language"}) {
       EXPECT_TRUE(std::filesystem::exists(data / dpi + "/" + name + ".png")) << name;
     }
   }
   EXPECT_EQ(CountPictures(data / "96"), CountPictures(data / "192"));
   EXPECT_NE(ReadFile(data / "96/main-27-search.png"), ReadFile(data / "192/main-27-search.png"));
   EXPECT_EQ(RunHost(data, {"list"}).output, before);
+}
+
+TEST(Commands, TheLanguageCommandSaysWhenALanguageTakesEffect) {
+  const TemporaryFolder data;
+  const Finished finished = RunHost(data, {"language", "--pictures", data / "seen"});
+  EXPECT_EQ(finished.status, 0) << finished.errors;
+  EXPECT_TRUE(Mentions(finished.output, "next start")) << finished.output;
+  EXPECT_EQ(CountPictures(data / "seen"), 1U);
 }
 
 TEST(MachineFile, WrongFactsAreNamed) {

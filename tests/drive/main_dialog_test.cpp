@@ -50,6 +50,7 @@ TEST(MainDialog, EveryPageOfTheTreeCanBeShown) {
   WriteGoodLimits(session);
   session.Write("config", "Options", "MaxNearDistance", 5);
   session.Write("config", "Options", "RegExMaxLines", 5);
+  session.Write("config", "Options", "TabSize", 4);
   session.Open();
   const Json nodes = session.Nodes();
   ASSERT_GE(nodes.size(), 5U);

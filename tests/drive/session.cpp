@@ -57,7 +57,7 @@ int WaitFor(int process) {
 }
 
 std::vector<std::string> CommonArguments(const std::string& command, const TemporaryFolder& data) {
-  return {HOST_PROGRAM, command, "--data", data.Path(), "--lang-dir", SOURCE_FOLDER "/lang"};
+  return {HOST_PROGRAM, command, "--data", data.Path(), "--lang-dir", kShippedLanguages};
 }
 
 }  // namespace
@@ -99,12 +99,13 @@ Finished RunHost(const TemporaryFolder& data, std::vector<std::string> arguments
   return finished;
 }
 
-Session::Session(const TemporaryFolder& data, const Json& machine) {
+Session::Session(const TemporaryFolder& data, const Json& machine, const std::string& languages) {
   alarm(kAlarmSeconds);
   std::signal(SIGPIPE, SIG_IGN);
   const std::string file = data / "machine.json";
   WriteFile(file, machine.dump());
   std::vector<std::string> arguments = CommonArguments("drive", data);
+  arguments.back() = languages;
   arguments.insert(arguments.end(), {"--machine", file});
   Pipe input, output;
   process_ = Spawn(arguments, input.reading, output.writing, -1);

@@ -11,6 +11,8 @@
 
 using Json = nlohmann::json;
 
+constexpr const char* kShippedLanguages = SOURCE_FOLDER "/lang";
+
 /// A folder that is removed at the end.
 class TemporaryFolder {
  public:
@@ -42,8 +44,10 @@ Finished RunHost(const TemporaryFolder& data, std::vector<std::string> arguments
 /// A running drive port.
 class Session {
  public:
-  /// Starts the program on the folder; with `machine`, on the machine that it describes.
-  explicit Session(const TemporaryFolder& data, const Json& machine = Json::object());
+  /// Starts the program on the folder; with `machine`, on the machine that it describes. The
+  /// language files are those of the folder `languages`.
+  explicit Session(const TemporaryFolder& data, const Json& machine = Json::object(),
+                   const std::string& languages = kShippedLanguages);
   /// Ends the program if it still runs.
   ~Session();
   Session(const Session&) = delete;

@@ -9,11 +9,15 @@
 #include "pages/formats/hash_page.h"
 #include "pages/formats/regex_page.h"
 #include "pages/general/alerts_page.h"
+#include "pages/general/colour_page.h"
 #include "pages/general/email_page.h"
 #include "pages/general/folders_page.h"
 #include "pages/general/history_page.h"
+#include "pages/general/internal_viewer_page.h"
+#include "pages/general/localization_page.h"
 #include "pages/general/memory_page.h"
 #include "pages/general/search_page.h"
+#include "pages/general/user_interface_page.h"
 #include "resources/text_ids.h"
 
 namespace {
@@ -37,6 +41,17 @@ using HistoryPage = CConfigEntryGeneralHistoryDlg;
 using FoldersPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralFoldersDlg>;
 using AlertsPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralAlertsDlg>;
 using EmailPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralEmailDlg>;
+using ColourPage = Geometry::CGeometryDynCreateWnd<CConfigEntryColorDlg>;
+
+/// The reads of all term colours, followed by others.
+Lines TermReadsAnd(Lines others) {
+  Lines lines;
+  for (char digit = '0'; digit <= '9'; ++digit) {
+    lines.push_back(std::wstring(L"int SearchTerms/Color") + wchar_t(digit) + L" 0");
+  }
+  lines.insert(lines.end(), others.begin(), others.end());
+  return lines;
+}
 
 const PageFacts kFacts[] = {
     {"history",
@@ -130,6 +145,50 @@ const PageFacts kFacts[] = {
      {L"int Options/HashingAlgorithms 1"},
      {L"int Options/HashingAlgorithms 10"},
      {{L"Options", {{L"HashingAlgorithms", 10}}}}},
+    {"user interface",
+     Make<CConfigEntryUserInterfaceDlg>,
+     {L"int UserInterface/UITheme 0", L"int UserInterface/DefaultTab 0",
+      L"bool UserInterface/UITabbed false", L"bool UserInterface/UITaskbarPreviews false",
+      L"bool UserInterface/ShowCVTabs false"},
+     {L"bool UserInterface/UITabbed false", L"bool UserInterface/UITaskbarPreviews true",
+      L"bool UserInterface/ShowCVTabs true", L"int UserInterface/UITheme 5",
+      L"int UserInterface/DefaultTab 3"},
+     {{L"UserInterface",
+       {{L"UITaskbarPreviews", true},
+        {L"ShowCVTabs", true},
+        {L"UITheme", 5},
+        {L"DefaultTab", 3}}}}},
+    {"internal viewer",
+     Make<CConfigEntryInternalViewerDlg>,
+     {L"int Options/TabSize 0"},
+     {L"int Options/TabSize 32"},
+     {{L"Options", {{L"TabSize", 32}}}}},
+    {"language",
+     Make<CConfigEntryLocalizationDlg>,
+     {L"text Language/File lang-en.xml"},
+     {L"text Language/File lang-en.xml"},
+     {{L"Language", {{L"File", L"LANG-EN.XML"}}}}},
+    {"colours",
+     Make<ColourPage>,
+     TermReadsAnd(
+         {L"int Window Settings/HighlightColor 0", L"int TextTab Settings/OriginalLineColor 0",
+          L"int TextTab Settings/SecondaryLineColor 0", L"int TextTab Settings/HighlightColor 0",
+          L"bool Window Settings/HighlightBold false", L"bool Window Settings/HighlightUnder false",
+          L"bool Window Settings/HighlightBack false", L"bool TextTab Settings/HighlightBold false",
+          L"bool TextTab Settings/HighlightUnder false"}),
+     {L"bool Window Settings/HighlightBold true", L"bool Window Settings/HighlightUnder false",
+      L"bool Window Settings/HighlightBack true", L"bool TextTab Settings/HighlightBold false",
+      L"bool TextTab Settings/HighlightUnder true", L"int Window Settings/HighlightColor 255",
+      L"int TextTab Settings/HighlightColor -1", L"int TextTab Settings/OriginalLineColor 65280",
+      L"int TextTab Settings/SecondaryLineColor 16777215"},
+     {{L"Window Settings",
+       {{L"HighlightColor", 0xFF}, {L"HighlightBold", true}, {L"HighlightBack", true}}},
+      {L"TextTab Settings",
+       {{L"HighlightColor", -1},
+        {L"OriginalLineColor", 0xFF00},
+        {L"SecondaryLineColor", 0xFFFFFF},
+        {L"HighlightUnder", true}}},
+      {L"SearchTerms", {{L"Color3", 7}}}}},
 };
 
 class PageFactsTest : public PageTest {
@@ -317,6 +376,10 @@ TEST_F(PageFactsTest, NumbersAreAcceptedWithinTheirRangesOnly) {
       {Make<CConfigEntryExprBooleanDlg>, IDC_MAX_NEAR_DISTANCE, L"10000000", false},
       {Make<CConfigEntryExprRegExDlg>, IDC_REGEX_MAX_LINES, L"0", false},
       {Make<CConfigEntryExprRegExDlg>, IDC_REGEX_MAX_LINES, L"9999999", true},
+      {Make<CConfigEntryInternalViewerDlg>, IDC_VIEWER_TAB_SIZE, L"0", false},
+      {Make<CConfigEntryInternalViewerDlg>, IDC_VIEWER_TAB_SIZE, L"1", true},
+      {Make<CConfigEntryInternalViewerDlg>, IDC_VIEWER_TAB_SIZE, L"32", true},
+      {Make<CConfigEntryInternalViewerDlg>, IDC_VIEWER_TAB_SIZE, L"33", false},
   };
   for (const wchar_t* key : {L"MaxSearchMem", L"ReduceLines", L"ReduceChars"}) {
     Give(L"MemMgr", key, 50);

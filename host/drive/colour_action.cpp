@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QTimer>
@@ -27,10 +28,18 @@ QAbstractButton* FindSwatch(const QWidget& palette, int value) {
 
 void ClickMiddle(QWidget* widget) { ClickAt(widget, widget->rect().center()); }
 
+/// The one field that is a line edit by itself and no part of another.
+QLineEdit* FindNameField(const QColorDialog& dialog) {
+  for (const auto* label : dialog.findChildren<QLabel*>()) {
+    if (auto* field = qobject_cast<QLineEdit*>(label->buddy())) return field;
+  }
+  return nullptr;
+}
+
 /// Types the colour into the field for its name and confirms. Runs in one go, so that nothing else
 /// happens between two keys.
 void TypeColour(QColorDialog& dialog, int value) {
-  auto* field = dialog.findChild<QLineEdit*>(QStringLiteral("qt_colorname_lineedit"));
+  QLineEdit* field = FindNameField(dialog);
   if (field == nullptr) return dialog.reject();
   const auto colour = static_cast<COLORREF>(value);
   const QString name = QColor(GetRValue(colour), GetGValue(colour), GetBValue(colour)).name();

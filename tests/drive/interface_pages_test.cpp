@@ -80,10 +80,15 @@ TEST(InterfacePages, EveryValueIsSavedInItsTypeAndShownAgain) {
   for (const ValueRow& row : kValues) {
     ASSERT_EQ(session.Select(row.page), row.page);
     const Json control = session.Get(row.control);
-    if (control["kind"] == "check") EXPECT_EQ(control["checked"], 1) << row.key;
-    if (control["kind"] == "combo") EXPECT_EQ(control["index"], row.choice) << row.key;
-    if (control["kind"] == "colour") EXPECT_EQ(control["colour"], row.choice) << row.key;
-    if (control["kind"] == "edit") EXPECT_EQ(control["text"], "8");
+    const std::string kind = control["kind"];
+    const char* field = kind == "check"    ? "checked"
+                        : kind == "combo"  ? "index"
+                        : kind == "colour" ? "colour"
+                                           : "text";
+    const Json shown = kind == "check"  ? Json(1)
+                       : kind == "edit" ? Json(std::to_string(row.choice))
+                                        : Json(row.choice);
+    EXPECT_EQ(control[field], shown) << row.key;
   }
   EXPECT_EQ(session.End(kCancel), 1);
 }
@@ -102,7 +107,8 @@ TEST(InterfacePages, AnEmptyStoreShowsBlackAndATabWidthThatMustBeChanged) {
   Session session(data);
   session.Open(kColours);
   int buttons = 0;
-  for (const Json& control : session.Do({{"do", "controls"}, {"template", 5558}})["controls"]) {
+  const Json reply = session.Do({{"do", "controls"}, {"template", 5558}});
+  for (const Json& control : reply["controls"]) {
     EXPECT_EQ(control["enabled"], true) << control;
     if (control["kind"] != "colour") continue;
     EXPECT_EQ(control["colour"], 0) << control;
@@ -118,7 +124,7 @@ TEST(InterfacePages, AnEmptyStoreShowsBlackAndATabWidthThatMustBeChanged) {
   EXPECT_EQ(session.End(kCancel), 1);
 }
 
-TEST(InterfacePages, TermColoursAreSetAndOnlyThoseChangedAreSaved) {
+TEST(InterfacePages, TermColoursAreSavedAsThePageShowsThem) {
   const TemporaryFolder data;
   Session session(data);
   Json colours = Json::array();
@@ -129,12 +135,11 @@ TEST(InterfacePages, TermColoursAreSetAndOnlyThoseChangedAreSaved) {
     EXPECT_EQ(session.Get(kTerms[term])["colour"], 1000 * term);
   }
   Colour(session, kTerms[4], 0x00FF00);
-  // Another program changes a term that the user leaves alone.
-  colours[5] = 77;
+  colours[5] = 77;  // Behind the page's back.
   session.Do({{"do", "terms"}, {"set", colours}});
   EXPECT_EQ(session.End(kOk), 0);
   colours[4] = 0x00FF00;
-  colours[5] = 5000;  // The page shows what it read, which differs from what is stored now.
+  colours[5] = 5000;
   EXPECT_EQ(session.Do({{"do", "terms"}})["colours"], colours);
 
   colours.erase(0);
@@ -249,7 +254,7 @@ TEST_F(Languages, ATextIsLookedForBehindTheFirstItemFirst) {
 }
 
 TEST_F(Languages, AnErrorEndsTheScanAndIsShownOnce) {
-  for (int file = 0; file < 20; ++file) Add("lang-" + std::to_string(file) + ".xml", "L");
+  for (int file = 0; file < 2000; ++file) Add("lang-" + std::to_string(file) + ".xml", "L");
   std::filesystem::create_directory(Folder() + "/lang-folder.xml");
   const struct {
     Json machine;
@@ -268,7 +273,7 @@ TEST_F(Languages, AnErrorEndsTheScanAndIsShownOnce) {
     }
     session.Do({{"do", "press"}, {"button", "OK"}});
     EXPECT_EQ(session.Top()["template"], 5551);
-    if (!fault.machine.empty()) EXPECT_TRUE(Listed(session).empty());
+    EXPECT_TRUE(fault.machine.empty() || Listed(session).empty());
     const std::string chosen = session.Get(kLanguageCombo)["text"];
     EXPECT_EQ(session.End(kOk), 0);
     EXPECT_EQ(Stored(session).is_null(), chosen.empty());

@@ -46,6 +46,7 @@ void CValuePage::DoDataExchange(CDataExchange* exchange) {
   if (!exchange->m_bSaveAndValidate) return;
   CheckValues(exchange);
   values.Write(*store);
+  CheckWrittenValues(exchange);
 }
 
 BOOL CValuePage::OnCommand(WPARAM wParam, LPARAM lParam) {

@@ -62,6 +62,10 @@ class CValuePage : public CConfigDialog {
   /// exchanged and before anything is written. Tells the user and calls `exchange->Fail()`.
   virtual void CheckValues(CDataExchange*) {}
 
+  /// As CheckValues, for values that the store keeps also when they are refused: called after
+  /// everything has been written.
+  virtual void CheckWrittenValues(CDataExchange*) {}
+
  private:
   StoreHandle StoreForExchange();
   void BindHeadings(CDataExchange* exchange);

@@ -53,6 +53,15 @@ constexpr Row kConfiguration[] = {
     {L"Options", L"UseCharacterCollation", false},
     {L"Options", L"RegExMaxLines", 1000},
     {L"Options", L"HashingAlgorithms", 1},
+    // Editors: 3 is the internal viewer.
+    {L"Editor", L"UseExternalAsDefault", 3},
+    // File lists, junction points and shortcuts.
+    {L"Options", L"AllowContainingFileList", 0},
+    {L"Options", L"AllowFileNameFileList", 0},
+    {L"Options", L"SearchJunctionPoints", 0},
+    {L"Options", L"ExcludeSystemHiddenJunctionPoints", 1},
+    {L"Options", L"ResolveShortCutFiles", false},
+    {L"Options", L"ResolveShortCutFolders", false},
 };
 
 /// A folder beside the program of a portable installation, and elsewhere. Empty leaves it to the

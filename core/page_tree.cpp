@@ -5,11 +5,16 @@
 #include "foundation/language.h"
 #include "pages/formats/advanced_group_page.h"
 #include "pages/formats/boolean_page.h"
+#include "pages/formats/default_editor_page.h"
 #include "pages/formats/dos_page.h"
 #include "pages/formats/editor_group_page.h"
 #include "pages/formats/expression_group_page.h"
+#include "pages/formats/external_editor_page.h"
+#include "pages/formats/file_list_page.h"
 #include "pages/formats/hash_page.h"
+#include "pages/formats/junctions_page.h"
 #include "pages/formats/regex_page.h"
+#include "pages/formats/transform_page.h"
 #include "pages/general/alerts_page.h"
 #include "pages/general/colour_page.h"
 #include "pages/general/email_page.h"
@@ -91,10 +96,15 @@ constexpr PageRow kPages[] = {
     Leaf<CConfigEntryExprRegExDlg>(kExpressions, TextId::kPageRegex, 21),
     Leaf<CConfigEntryExprHashDlg>(kExpressions, TextId::kPageHash, 20),
 
+    Leaf<CConfigEntryEditorDefaultDlg>(kEditor, TextId::kPageDefaultEditor, 2),
+    LaidOut<CConfigEntryEditorExternalDlg>(kEditor, TextId::kPageExternalEditor, 3),
     Leaf<CConfigEntryInternalViewerDlg>(kEditor, TextId::kPageInternalViewer, 25),
 
+    Leaf<CConfigEntryAdvFileListDlg>(kAdvanced, TextId::kPageFileLists, 17),
     LaidOut<CConfigEntryGeneralFoldersDlg>(kAdvanced, TextId::kPageFolders, 11),
+    Leaf<CConfigEntryAdvJunctionsDlg>(kAdvanced, TextId::kPageJunctions, 16),
     Leaf<CConfigEntryMemMgrDlg>(kAdvanced, TextId::kPageMemory, 28),
+    Leaf<CConfigEntryAdvTransformDlg>(kAdvanced, TextId::kPageTransform, 14),
 };
 
 /// A page id chooses one node, and a template belongs to one page.

@@ -60,7 +60,8 @@ class CValuePage : public CConfigDialog {
   virtual StoreHandle GetValueStore() { return GetWorkingStore(); }
 
   /// Values of the page's own beside those of its table: called with the store before the table's
-  /// values are read, and after they have been shown or, when saving, written.
+  /// values are read, and after they have been shown or, when saving, written. EndExchange is
+  /// also the place to refuse a value that the store keeps nevertheless.
   virtual void BeginExchange(CDataExchange*, const StoreHandle&) {}
   virtual void EndExchange(CDataExchange*, const StoreHandle&) {}
 

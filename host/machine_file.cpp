@@ -92,6 +92,22 @@ std::optional<std::map<wchar_t, std::wstring>> ToDrives(const QJsonValue& json) 
   return drives;
 }
 
+std::optional<std::vector<EditorFact>> ToEditors(const QJsonValue& json) {
+  if (json.isUndefined()) return std::nullopt;
+  std::vector<EditorFact> editors;
+  for (const QJsonValue& editor : json.toArray()) {
+    editors.push_back({editor["name"].toString().toStdWString(), editor["default"].toBool()});
+  }
+  return editors;
+}
+
+std::optional<std::vector<std::wstring>> ToList(const QJsonValue& json) {
+  if (json.isUndefined()) return std::nullopt;
+  std::vector<std::wstring> texts;
+  for (const QJsonValue& text : json.toArray()) texts.push_back(text.toString().toStdWString());
+  return texts;
+}
+
 std::optional<HOLLERIN::Values> ToValues(const QJsonValue& json) {
   if (json.isUndefined()) return std::nullopt;
   HOLLERIN::Values values;
@@ -151,6 +167,8 @@ void MachineFile::Take(const QJsonObject& facts) {
   if (facts.contains("sound")) soundPlays_ = facts["sound"] == "plays";
   folders_ = ToTexts(facts["folders"]);
   drives_ = ToDrives(facts["drives"]);
+  editors_ = ToEditors(facts["editors"]);
+  components_ = ToList(facts["components"]);
   const QJsonObject defaults = facts["defaults"].toObject();
   defaultConfig_ = ToValues(defaults["config"]);
   defaultMaster_ = ToValues(defaults["master"]);
@@ -172,6 +190,14 @@ std::map<wchar_t, std::wstring> MachineFile::Drives() const {
 
 std::optional<std::map<std::wstring, std::wstring>> MachineFile::Folders() const {
   return folders_ ? folders_ : Machine::Folders();
+}
+
+std::optional<std::vector<EditorFact>> MachineFile::Editors() const {
+  return editors_ ? editors_ : Machine::Editors();
+}
+
+std::optional<std::vector<std::wstring>> MachineFile::Components() const {
+  return components_ ? components_ : Machine::Components();
 }
 
 bool MachineFile::Opens(std::wstring_view nativePath) const {

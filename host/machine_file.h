@@ -36,6 +36,8 @@ class MachineFile : public Machine {
   bool Fails(std::wstring_view operation) const override;
   std::map<wchar_t, std::wstring> Drives() const override;
   std::optional<std::map<std::wstring, std::wstring>> Folders() const override;
+  std::optional<std::vector<EditorFact>> Editors() const override;
+  std::optional<std::vector<std::wstring>> Components() const override;
   bool Opens(std::wstring_view nativePath) const override;
   std::optional<bool> PlaysSound(std::wstring_view path) const override;
   bool UsesToolkitPickers() const override;
@@ -61,6 +63,8 @@ class MachineFile : public Machine {
   std::optional<bool> soundPlays_;
   std::optional<std::map<std::wstring, std::wstring>> folders_;
   std::optional<std::map<wchar_t, std::wstring>> drives_;
+  std::optional<std::vector<EditorFact>> editors_;
+  std::optional<std::vector<std::wstring>> components_;
   std::optional<ThrowRule> throws_;
   std::optional<HOLLERIN::Values> defaultConfig_;
   std::optional<HOLLERIN::Values> defaultMaster_;

@@ -2,7 +2,15 @@
 
 #include <filesystem>
 
+#include "platform/user_folder.h"
+
 namespace {
+
+/// The folder of the running program; empty when the system does not tell.
+std::filesystem::path ProgramFolder() {
+  std::error_code error;
+  return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+}
 
 std::shared_ptr<const Machine>& Current() {
   static std::shared_ptr<const Machine> machine = std::make_shared<Machine>();
@@ -14,10 +22,9 @@ std::shared_ptr<const Machine>& Current() {
 Machine::~Machine() = default;
 
 bool Machine::Portable() const {
+  const std::filesystem::path folder = ProgramFolder();
   std::error_code error;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-  if (error) return false;
-  return std::filesystem::exists(program.parent_path() / kPortableMark, error);
+  return !folder.empty() && std::filesystem::exists(folder / kPortableMark, error);
 }
 
 std::optional<std::optional<std::wstring>> Machine::LanguageFile() const { return std::nullopt; }
@@ -28,6 +35,18 @@ std::map<wchar_t, std::wstring> Machine::Drives() const { return {}; }
 
 std::optional<std::map<std::wstring, std::wstring>> Machine::Folders() const {
   return std::nullopt;
+}
+
+std::optional<std::vector<EditorFact>> Machine::Editors() const { return std::nullopt; }
+
+std::optional<std::vector<std::wstring>> Machine::Components() const { return std::nullopt; }
+
+std::vector<std::string> Machine::ComponentFolders() const {
+  std::vector<std::string> folders;
+  if (const auto program = ProgramFolder(); !program.empty())
+    folders.push_back(program / "components");
+  if (const auto data = UserDataFolder()) folders.push_back(*data + "/quarrow/components");
+  return folders;
 }
 
 bool Machine::Opens(std::wstring_view) const { return false; }

@@ -8,8 +8,15 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 constexpr const char* kPortableMark = "portable";
+
+/// An external editor that a machine dictates.
+struct EditorFact {
+  std::wstring name;
+  bool isDefault = false;
+};
 
 class Machine {
  public:
@@ -33,6 +40,17 @@ class Machine {
   /// The placeholders of the application folders with the folders they stand for ("%DATA%"), when
   /// the machine dictates them; empty when they are those of the user.
   virtual std::optional<std::map<std::wstring, std::wstring>> Folders() const;
+
+  /// The external editors, when the machine dictates them; empty when they are looked for.
+  virtual std::optional<std::vector<EditorFact>> Editors() const;
+
+  /// The programmatic identifiers of the components that can be created, when the machine dictates
+  /// them; empty when their registrations decide.
+  virtual std::optional<std::vector<std::wstring>> Components() const;
+
+  /// The folders with the registrations of components, best first: "components" beside the program,
+  /// and "quarrow/components" among the user's data.
+  virtual std::vector<std::string> ComponentFolders() const;
 
   /// Opens a file or folder of this system in the desktop's place; false leaves it to the desktop.
   virtual bool Opens(std::wstring_view nativePath) const;

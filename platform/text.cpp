@@ -118,6 +118,13 @@ int CString::CompareNoCase(const wchar_t* other) const {
   return text_.size() < right.size() ? -1 : 1;
 }
 
+CString& CString::MakeLower() {
+  for (wchar_t& character : text_) {
+    character = static_cast<wchar_t>(QChar::toLower(static_cast<char32_t>(character)));
+  }
+  return *this;
+}
+
 CString& CString::Trim() {
   text_.erase(text_.begin(), std::find_if_not(text_.begin(), text_.end(), IsBlank));
   text_.erase(std::find_if_not(text_.rbegin(), text_.rend(), IsBlank).base(), text_.end());

@@ -48,6 +48,7 @@ class CString {
   int Find(const wchar_t* part, int start = 0) const;
   int CompareNoCase(const wchar_t* other) const;
   CString& Trim();
+  CString& MakeLower();
 
   /// Replaces the text by the filled pattern (see FormatText). Arguments are texts or integers.
   template <class... Arguments>

@@ -13,7 +13,12 @@ constexpr unsigned kGroupExtensions = 75;
 constexpr unsigned kGroupGeneral = 76;
 
 // Titles of pages.
+constexpr unsigned kPageFileLists = 45;
 constexpr unsigned kPageFolders = 46;
+constexpr unsigned kPageJunctions = 47;
+constexpr unsigned kPageTransform = 49;
+constexpr unsigned kPageDefaultEditor = 51;
+constexpr unsigned kPageExternalEditor = 52;
 constexpr unsigned kPageInternalViewer = 53;
 constexpr unsigned kPageBoolean = 70;
 constexpr unsigned kPageDos = 71;
@@ -37,6 +42,8 @@ constexpr unsigned kSavingConfiguration = 83;
 constexpr unsigned kRestoringDefaults = 85;
 
 // Messages.
+constexpr unsigned kTransformNotCreated = 54;
+constexpr unsigned kEditorBrowsingFailed = 56;
 constexpr unsigned kFoundSoundMissing = 59;
 constexpr unsigned kEndSoundMissing = 60;
 constexpr unsigned kSoundNotPlayed = 61;
@@ -84,8 +91,9 @@ constexpr unsigned kHistoryWorkspaces = 1067;
 
 constexpr unsigned kMegabytes = 417;
 
-/// File types of the dialog that picks a sound: pairs of a text and patterns, as CFileDialog wants
-/// them.
+/// File types of the dialogs that pick an editor and a sound: pairs of a text and patterns, as
+/// CFileDialog wants them.
+constexpr unsigned kEditorFilter = 55;
 constexpr unsigned kSoundFilter = 63;
 
 /// Entry of a colour button that opens the full colour dialog.

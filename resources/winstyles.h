@@ -49,6 +49,7 @@
 // Combo boxes.
 #define CBS_DROPDOWNLIST 0x3
 #define CBS_OWNERDRAWFIXED 0x10
+#define CBS_SORT 0x100
 #define CBS_HASSTRINGS 0x200
 
 // Trackbars.

@@ -28,6 +28,23 @@ QString SpokenText(const Peer& control) {
   return spoken.trimmed();
 }
 
+bool HasKey(const Peer& label) {
+  QString text = ToQt(label.Text());
+  return text.remove(QLatin1String("&&")).contains(QLatin1Char('&'));
+}
+
+/// A label with a key that no control follows belongs to the first control, where the Tab key goes
+/// on to. The text of such a label; empty when there is none.
+QString TextAroundTheEnd(const Peer& dialog) {
+  for (std::size_t i = dialog.children.size(); i-- > 0;) {
+    const Peer* last = FindPeer(dialog.children[i].window);
+    if (last == nullptr) continue;
+    if (IsInteractive(*last)) break;
+    if (last->kind == ControlKind::Label && HasKey(*last)) return SpokenText(*last);
+  }
+  return {};
+}
+
 std::size_t PlaceIn(const Peer& dialog, HWND control) {
   std::size_t place = 0;
   while (place < dialog.children.size() && dialog.children[place].window != control) ++place;
@@ -41,7 +58,7 @@ QString TextBefore(const Peer& dialog, std::size_t place) {
     const QString text = SpokenText(*before);
     if (!text.isEmpty()) return text;
   }
-  return {};
+  return TextAroundTheEnd(dialog);
 }
 
 void Name(const Peer& control, const QString& before) {
@@ -52,20 +69,27 @@ void Name(const Peer& control, const QString& before) {
   if (control.widget->accessibleName() != name) control.widget->setAccessibleName(name);
 }
 
-/// Lets the keys of a label lead to the first control after it that takes the focus.
-void FindBuddy(const Peer& dialog, std::size_t place, QLabel& label) {
-  for (std::size_t i = place + 1; i < dialog.children.size(); ++i) {
-    const Peer* next = FindPeer(dialog.children[i].window);
-    if (next == nullptr || next->widget == nullptr || (next->style & WS_TABSTOP) == 0) continue;
-    label.setBuddy(next->widget);
-    return;
+/// The first control from that place on that takes the focus; null when there is none.
+QWidget* FirstStop(const Peer& dialog, std::size_t place) {
+  for (std::size_t i = place; i < dialog.children.size(); ++i) {
+    const Peer* control = FindPeer(dialog.children[i].window);
+    if (control != nullptr && (control->style & WS_TABSTOP) != 0 && control->widget != nullptr)
+      return control->widget;
   }
+  return nullptr;
+}
+
+/// Lets the keys of a label lead to the control after it that takes the focus.
+void FindBuddy(const Peer& dialog, std::size_t place, const Peer& control, QLabel& label) {
+  QWidget* buddy = FirstStop(dialog, place + 1);
+  if (buddy == nullptr && HasKey(control)) buddy = FirstStop(dialog, 0);
+  if (buddy != nullptr) label.setBuddy(buddy);
 }
 
 }  // namespace
 
 void NameControls(const Peer& dialog) {
-  QString before;
+  QString before = TextAroundTheEnd(dialog);
   for (std::size_t i = 0; i < dialog.children.size(); ++i) {
     const Peer* control = FindPeer(dialog.children[i].window);
     if (control == nullptr || control->kind == ControlKind::Dialog) continue;
@@ -75,7 +99,8 @@ void NameControls(const Peer& dialog) {
       if (!text.isEmpty()) before = text;
     }
     if (control->kind == ControlKind::Label)
-      if (auto* label = qobject_cast<QLabel*>(control->widget)) FindBuddy(dialog, i, *label);
+      if (auto* label = qobject_cast<QLabel*>(control->widget))
+        FindBuddy(dialog, i, *control, *label);
   }
 }
 

@@ -88,6 +88,15 @@ constexpr Row kConfiguration[] = {
     {L"SearchTerms", L"Color7", Colour(112, 112, 0)},
     {L"SearchTerms", L"Color8", Colour(80, 80, 80)},
     {L"SearchTerms", L"Color9", Colour(34, 28, 110)},
+    // Editors: 3 is the internal viewer.
+    {L"Editor", L"UseExternalAsDefault", 3},
+    // File lists, junction points and shortcuts.
+    {L"Options", L"AllowContainingFileList", 0},
+    {L"Options", L"AllowFileNameFileList", 0},
+    {L"Options", L"SearchJunctionPoints", 0},
+    {L"Options", L"ExcludeSystemHiddenJunctionPoints", 1},
+    {L"Options", L"ResolveShortCutFiles", false},
+    {L"Options", L"ResolveShortCutFolders", false},
 };
 
 /// A folder beside the program of a portable installation, and elsewhere. Empty leaves it to the

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "ifc/config_data_mgr.h"
+#include "ifc/external_editor_mgr.h"
 #include "ifc/load_combo_reg.h"
 
 namespace TOLLIVER {
@@ -22,5 +23,12 @@ namespace TOLLIVER {
 /// is E_INVALIDARG and leaves the selection as it was.
 HRESULT CreateLoadComboReg(const std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>& store,
                            std::shared_ptr<INTERNAL_IFC::ILoadComboReg>* provider);
+
+/// A manager of the external editors that are on the machine when it is made. The default among
+/// them is kept in the store, in section "Editor" under the key "DefaultExternal", as the name of
+/// its desktop entry or of its program; what the store raises passes through. Without a store
+/// nothing is remembered.
+HRESULT CreateExternalEditorMgr(const std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>& store,
+                                std::shared_ptr<INTERNAL_IFC::IExternalEditorMgr>* manager);
 
 }  // namespace TOLLIVER

@@ -83,8 +83,8 @@ TEST_F(ManagersTest, TheTreeHasItsGroupsAndPagesInOrder) {
   };
   const Node expected[] = {{TextId::kGroupGeneral, 4, 0, {7, 27, 29, 12, 26, 30, 24}},
                            {TextId::kGroupExpressions, 22, 1, {19, 23, 21, 20}},
-                           {TextId::kGroupEditor, 8, 2, {25}},
-                           {TextId::kGroupAdvanced, 13, 3, {11, 28}}};
+                           {TextId::kGroupEditor, 8, 2, {2, 3, 25}},
+                           {TextId::kGroupAdvanced, 13, 3, {17, 11, 16, 28, 14}}};
   CConfigMgr root(store);
   EntryList groups(7);
   ASSERT_EQ(root.GetChildren(groups), 4);

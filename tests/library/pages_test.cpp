@@ -6,8 +6,12 @@
 #include "page_fixture.h"
 #include "pages/formats/boolean_page.h"
 #include "pages/formats/dos_page.h"
+#include "pages/formats/external_editor_page.h"
+#include "pages/formats/file_list_page.h"
 #include "pages/formats/hash_page.h"
+#include "pages/formats/junctions_page.h"
 #include "pages/formats/regex_page.h"
+#include "pages/formats/transform_page.h"
 #include "pages/general/alerts_page.h"
 #include "pages/general/colour_page.h"
 #include "pages/general/email_page.h"
@@ -40,6 +44,7 @@ std::shared_ptr<CConfigDialog> Make() {
 using HistoryPage = CConfigEntryGeneralHistoryDlg;
 using FoldersPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralFoldersDlg>;
 using AlertsPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralAlertsDlg>;
+using ExternalEditorPage = Geometry::CGeometryDynCreateWnd<CConfigEntryEditorExternalDlg>;
 using EmailPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralEmailDlg>;
 using ColourPage = Geometry::CGeometryDynCreateWnd<CConfigEntryColorDlg>;
 
@@ -189,6 +194,29 @@ const PageFacts kFacts[] = {
         {L"SecondaryLineColor", 0xFFFFFF},
         {L"HighlightUnder", true}}},
       {L"SearchTerms", {{L"Color3", 7}}}}},
+    {"external editor",
+     Make<ExternalEditorPage>,
+     {L"text Editor/ExternalPath ", L"text Editor/ExternalParms "},
+     {L"text Editor/ExternalPath  /bin/e ", L"text Editor/ExternalParms $(X)"},
+     {{L"Editor", {{L"ExternalPath", L" /bin/e "}, {L"ExternalParms", L"$(X)"}}}}},
+    {"file lists",
+     Make<CConfigEntryAdvFileListDlg>,
+     {L"int Options/AllowContainingFileList 0", L"int Options/AllowFileNameFileList 0"},
+     {L"int Options/AllowContainingFileList 1", L"int Options/AllowFileNameFileList 0"},
+     {{L"Options", {{L"AllowContainingFileList", 7}, {L"AllowFileNameFileList", -1}}}}},
+    {"junctions",
+     Make<CConfigEntryAdvJunctionsDlg>,
+     {L"int Options/SearchJunctionPoints 0", L"int Options/ExcludeSystemHiddenJunctionPoints 0",
+      L"bool Options/ResolveShortCutFiles false", L"bool Options/ResolveShortCutFolders false"},
+     {L"int Options/SearchJunctionPoints 0", L"int Options/ExcludeSystemHiddenJunctionPoints 1",
+      L"bool Options/ResolveShortCutFiles false", L"bool Options/ResolveShortCutFolders true"},
+     {{L"Options",
+       {{L"ExcludeSystemHiddenJunctionPoints", 1}, {L"ResolveShortCutFolders", true}}}}},
+    {"transform",
+     Make<CConfigEntryAdvTransformDlg>,
+     {L"text CustomTransform/MSXMLProgId "},
+     {L"text CustomTransform/MSXMLProgId "},
+     {}},
 };
 
 class PageFactsTest : public PageTest {

@@ -29,6 +29,13 @@ const std::vector<DialogSource> kDialogs = {
       {L"Button", L"R2", 612, kRadio},
       {L"Button", L"S0", 620, kRadio | WS_TABSTOP | WS_GROUP},
       {L"Button", L"S1", 621, kRadio}},
+     WS_CHILD | WS_VISIBLE},
+    {520,
+     {{L"Edit", L"", 700},
+      {L"Static", L"Introduction && more", 701, kPlain},
+      {L"Edit", L"", 702},
+      {L"Static", L"&Last:", 703, kPlain},
+      {L"Static", L"Explanation", 704, kPlain}},
      WS_CHILD | WS_VISIBLE}};
 
 /// A host with its page, open.
@@ -106,6 +113,21 @@ TEST_F(TabOrder, LabelsLeadToTheirControls) {
   EXPECT_EQ(label->buddy(), ControlWidget(page_, 601));
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::AltModifier);
   EXPECT_EQ(Focus(), 601);
+}
+
+TEST_F(TabOrder, ALabelWithAKeyBehindTheLastControlLeadsToTheFirst) {
+  TestDialog other(520);
+  ASSERT_TRUE(other.Create(520, &host_));
+  const auto buddy = [&other](int id) {
+    return qobject_cast<QLabel*>(ControlWidget(other, id))->buddy();
+  };
+  EXPECT_EQ(buddy(701), ControlWidget(other, 702));
+  EXPECT_EQ(buddy(703), ControlWidget(other, 700));
+  EXPECT_EQ(buddy(704), nullptr);
+  EXPECT_EQ(ControlWidget(other, 700)->accessibleName(), QStringLiteral("Last"));
+  EXPECT_EQ(ControlWidget(other, 702)->accessibleName(), QStringLiteral("Introduction & more"));
+  other.SetDlgItemText(703, L"Path");
+  EXPECT_EQ(ControlWidget(other, 702)->accessibleName(), QStringLiteral("Introduction & more"));
 }
 
 TEST_F(TabOrder, ControlsMadeAtRunTimeJoin) {

@@ -16,11 +16,17 @@ struct FakeMachine : Machine {
     opened.emplace_back(path);
     return opens;
   }
+  std::optional<std::vector<EditorFact>> Editors() const override { return editors; }
+  std::optional<std::vector<std::wstring>> Components() const override { return components; }
+  std::vector<std::string> ComponentFolders() const override { return componentFolders; }
   std::optional<bool> PlaysSound(std::wstring_view) const override { return sound; }
 
   std::map<wchar_t, std::wstring> drives;
   std::optional<std::map<std::wstring, std::wstring>> folders;
   std::wstring fails;
+  std::optional<std::vector<EditorFact>> editors;
+  std::optional<std::vector<std::wstring>> components;
+  std::vector<std::string> componentFolders;
   bool opens = true;
   std::optional<bool> sound;
   mutable std::vector<std::wstring> opened;

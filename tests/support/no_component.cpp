@@ -1,0 +1,3 @@
+// A shared object without the function that makes a component.
+
+extern "C" int Nothing() { return 0; }

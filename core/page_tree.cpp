@@ -11,12 +11,16 @@
 #include "pages/formats/hash_page.h"
 #include "pages/formats/regex_page.h"
 #include "pages/general/alerts_page.h"
+#include "pages/general/character_page.h"
+#include "pages/general/display_page.h"
 #include "pages/general/email_page.h"
 #include "pages/general/folders_page.h"
 #include "pages/general/general_group_page.h"
 #include "pages/general/history_page.h"
 #include "pages/general/memory_page.h"
 #include "pages/general/search_page.h"
+#include "pages/general/shell_page.h"
+#include "pages/general/threads_page.h"
 #include "resources/text_ids.h"
 
 namespace {
@@ -75,8 +79,11 @@ constexpr GroupRow kGroups[] = {
 
 constexpr PageRow kPages[] = {
     Leaf<CConfigEntryGeneralHistoryDlg>(kGeneral, TextId::kPageHistory, 7),
+    Leaf<CConfigEntryGeneralDisplayDlg>(kGeneral, TextId::kPageDisplay, 5),
     Leaf<CConfigEntrySearchDlg>(kGeneral, TextId::kPageSearch, 27),
     LaidOut<CConfigEntryGeneralEmailDlg>(kGeneral, TextId::kPageEmail, 29),
+    LaidOut<CConfigEntryGeneralCharProcDlg>(kGeneral, TextId::kPageCharacters, 6),
+    Leaf<CConfigEntryGeneralShellDlg>(kGeneral, TextId::kPageShell, 10),
     LaidOut<CConfigEntryGeneralAlertsDlg>(kGeneral, TextId::kPageAlerts, 12),
 
     Leaf<CConfigEntryExprBooleanDlg>(kExpressions, TextId::kPageBoolean, 19),
@@ -86,6 +93,7 @@ constexpr PageRow kPages[] = {
 
     LaidOut<CConfigEntryGeneralFoldersDlg>(kAdvanced, TextId::kPageFolders, 11),
     Leaf<CConfigEntryMemMgrDlg>(kAdvanced, TextId::kPageMemory, 28),
+    LaidOut<CConfigEntryGeneralThreadDlg>(kAdvanced, TextId::kPageThreads, 9),
 };
 
 /// A page id chooses one node, and a template belongs to one page.

@@ -4,6 +4,7 @@
 // headings, its enabling rules) and the few things that are its own; getting the store, reading,
 // exchanging, validating and writing happens here, once for all pages.
 
+#include <optional>
 #include <vector>
 
 #include "controls/custom_combo_box.h"
@@ -21,6 +22,15 @@ struct EnablingRule {
 template <int... kIds>
 bool WhenChecked(const CWnd& page) {
   return (... && (page.IsDlgButtonChecked(kIds) != 0));
+}
+
+/// The id that the combo box keeps with its chosen row; nothing without a choice.
+std::optional<int> ChosenId(const CWnd& page, int combo);
+
+/// Predicate of an enabling rule: the chosen row of the combo box is that of the id.
+template <int kCombo, int kId>
+bool WhenChosen(const CWnd& page) {
+  return ChosenId(page, kCombo) == kId;
 }
 
 /// What a page does while its host has no store.
@@ -58,12 +68,15 @@ class CValuePage : public CConfigDialog {
   /// being edited answers with that store. Empty when there is none.
   virtual StoreHandle GetValueStore() { return GetWorkingStore(); }
 
+  /// The value store, or where there is none and the page shows the defaults, a blank one, whose
+  /// values nobody keeps.
+  StoreHandle StoreForExchange();
+
   /// What a table cannot say about valid values: called when saving, after all controls have been
   /// exchanged and before anything is written. Tells the user and calls `exchange->Fail()`.
   virtual void CheckValues(CDataExchange*) {}
 
  private:
-  StoreHandle StoreForExchange();
   void BindHeadings(CDataExchange* exchange);
   void BindLabelCombos(CDataExchange* exchange);
 

@@ -1,5 +1,7 @@
 #include "platform/machine.h"
 
+#include <QThread>
+#include <algorithm>
 #include <filesystem>
 
 namespace {
@@ -18,6 +20,14 @@ bool Machine::Portable() const {
   const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
   if (error) return false;
   return std::filesystem::exists(program.parent_path() / kPortableMark, error);
+}
+
+int Machine::Processors() const { return std::max(1, QThread::idealThreadCount()); }
+
+std::optional<ShellRegistration> Machine::Registration() const { return std::nullopt; }
+
+std::optional<RegistryKey> Machine::FindRegistryKey(std::wstring_view) const {
+  return std::nullopt;
 }
 
 std::optional<std::optional<std::wstring>> Machine::LanguageFile() const { return std::nullopt; }

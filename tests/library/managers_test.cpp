@@ -81,10 +81,10 @@ TEST_F(ManagersTest, TheTreeHasItsGroupsAndPagesInOrder) {
     std::int32_t image;
     std::vector<std::int32_t> pages;
   };
-  const Node expected[] = {{TextId::kGroupGeneral, 4, 0, {7, 27, 29, 12}},
+  const Node expected[] = {{TextId::kGroupGeneral, 4, 0, {7, 5, 27, 29, 6, 10, 12}},
                            {TextId::kGroupExpressions, 22, 1, {19, 23, 21, 20}},
                            {TextId::kGroupEditor, 8, 2, {}},
-                           {TextId::kGroupAdvanced, 13, 3, {11, 28}}};
+                           {TextId::kGroupAdvanced, 13, 3, {11, 28, 9}}};
   CConfigMgr root(store);
   EntryList groups(7);
   ASSERT_EQ(root.GetChildren(groups), 4);

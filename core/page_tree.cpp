@@ -16,7 +16,9 @@
 #include "pages/formats/regex_page.h"
 #include "pages/formats/transform_page.h"
 #include "pages/general/alerts_page.h"
+#include "pages/general/character_page.h"
 #include "pages/general/colour_page.h"
+#include "pages/general/display_page.h"
 #include "pages/general/email_page.h"
 #include "pages/general/folders_page.h"
 #include "pages/general/general_group_page.h"
@@ -25,6 +27,8 @@
 #include "pages/general/localization_page.h"
 #include "pages/general/memory_page.h"
 #include "pages/general/search_page.h"
+#include "pages/general/shell_page.h"
+#include "pages/general/threads_page.h"
 #include "pages/general/user_interface_page.h"
 #include "resources/text_ids.h"
 
@@ -84,8 +88,11 @@ constexpr GroupRow kGroups[] = {
 
 constexpr PageRow kPages[] = {
     Leaf<CConfigEntryGeneralHistoryDlg>(kGeneral, TextId::kPageHistory, 7),
+    Leaf<CConfigEntryGeneralDisplayDlg>(kGeneral, TextId::kPageDisplay, 5),
     Leaf<CConfigEntrySearchDlg>(kGeneral, TextId::kPageSearch, 27),
     LaidOut<CConfigEntryGeneralEmailDlg>(kGeneral, TextId::kPageEmail, 29),
+    LaidOut<CConfigEntryGeneralCharProcDlg>(kGeneral, TextId::kPageCharacters, 6),
+    Leaf<CConfigEntryGeneralShellDlg>(kGeneral, TextId::kPageShell, 10),
     LaidOut<CConfigEntryGeneralAlertsDlg>(kGeneral, TextId::kPageAlerts, 12),
     Leaf<CConfigEntryLocalizationDlg>(kGeneral, TextId::kPageLocalization, 26),
     LaidOut<CConfigEntryColorDlg>(kGeneral, TextId::kPageColours, 30),
@@ -104,6 +111,7 @@ constexpr PageRow kPages[] = {
     LaidOut<CConfigEntryGeneralFoldersDlg>(kAdvanced, TextId::kPageFolders, 11),
     Leaf<CConfigEntryAdvJunctionsDlg>(kAdvanced, TextId::kPageJunctions, 16),
     Leaf<CConfigEntryMemMgrDlg>(kAdvanced, TextId::kPageMemory, 28),
+    LaidOut<CConfigEntryGeneralThreadDlg>(kAdvanced, TextId::kPageThreads, 9),
     Leaf<CConfigEntryAdvTransformDlg>(kAdvanced, TextId::kPageTransform, 14),
 };
 

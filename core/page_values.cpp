@@ -65,6 +65,9 @@ void ExchangeNumber(CDataExchange* exchange, const Row& row, int& stored) {
     case Kind::kLabels:
       ExchangeLabel(exchange, control, shown);
       break;
+    case Kind::kRow:
+      DDX_CBIndex(exchange, control.id, shown);
+      break;
     case Kind::kBits:
       ExchangeBits(exchange, control, shown);
       break;
@@ -84,7 +87,8 @@ int ToControl(const Row& row, int stored) {
   const Control& control = row.control;
   if (control.inverted) return stored == 0 ? 1 : 0;
   if (control.flag) return stored > 0 ? 1 : 0;
-  if (control.kind == Kind::kRadio && (stored < 0 || stored >= control.buttons)) return 0;
+  const bool counted = control.kind == Kind::kRadio || control.kind == Kind::kRow;
+  if (counted && (stored < 0 || stored >= control.buttons)) return 0;
   return stored;
 }
 
@@ -94,13 +98,14 @@ int ToStored(const Row& row, int shown) {
   if (control.inverted) return control.kind == Kind::kRadio ? shown == 0 : shown != BST_CHECKED;
   if (control.kind == Kind::kRadio && isBool) return shown != 0 ? 1 : 0;
   if (isBool || control.flag) return shown == BST_CHECKED ? 1 : 0;
+  if (control.kind == Kind::kRow && (shown < 0 || shown >= control.buttons)) return 0;
   return shown;
 }
 
 Values::Values(const TableView& table, INTERNAL_IFC::IConfigDataMgr& store)
     : table_(table), values_(table.rows.size()) {
   for (std::size_t index = 0; index < values_.size(); ++index) {
-    Read(table_.rows[index], values_[index], store);
+    if (table_.rows[index].stored.read) Read(table_.rows[index], values_[index], store);
   }
 }
 
@@ -126,6 +131,7 @@ void Values::Read(const Row& row, Value& value, INTERNAL_IFC::IConfigDataMgr& st
 void Values::Exchange(CDataExchange* exchange) {
   for (const std::uint8_t index : table_.exchanged) {
     const Row& row = table_.rows[index];
+    if (!row.stored.read && !exchange->m_bSaveAndValidate) continue;
     Value& value = values_[index];
     if (row.control.kind == Kind::kEdit) {
       DDX_Text(exchange, row.control.id, value.text);

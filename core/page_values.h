@@ -33,6 +33,7 @@ struct Stored {
   int number = 0;             ///< Default of a boolean or integer.
   const wchar_t* text = L"";  ///< Default of a text.
   int defaultRow = -1;        ///< The earlier row whose value is the default; -1 for none.
+  bool read = true;           ///< Whether a load reads the value and shows it.
 };
 
 constexpr Stored Bool(bool defaultValue) {
@@ -49,6 +50,12 @@ constexpr Stored Text(const wchar_t* defaultValue = L"") {
   return {Type::kText, Type::kText, 0, defaultValue};
 }
 
+/// A value that a load neither reads nor shows, because the page fills the control from elsewhere.
+constexpr Stored Unread(Stored stored) {
+  stored.read = false;
+  return stored;
+}
+
 /// The numbers that a save accepts, bounds included. With `onlyWhileChecked` they are checked only
 /// while that check box is set.
 struct Range {
@@ -57,7 +64,17 @@ struct Range {
   int onlyWhileChecked = 0;
 };
 
-enum class Kind : std::uint8_t { kCheck, kRadio, kNumber, kSlider, kEdit, kLabels, kBits, kColour };
+enum class Kind : std::uint8_t {
+  kCheck,
+  kRadio,
+  kNumber,
+  kSlider,
+  kEdit,
+  kLabels,
+  kRow,
+  kBits,
+  kColour
+};
 
 /// Which control shows a value, and how.
 struct Control {
@@ -65,7 +82,7 @@ struct Control {
   int id = 0;
   bool inverted = false;  ///< The control shows the opposite of a boolean.
   bool flag = false;      ///< Any integer above 0 counts as checked; written as 0 or 1.
-  int buttons = 0;        ///< Radio buttons of the group.
+  int buttons = 0;        ///< Radio buttons of the group, or rows of the combo box.
   bool ranged = false;
   Range range{};
   std::span<const LabelRow> labels{};
@@ -109,6 +126,11 @@ constexpr Control Labels(int id, std::span<const LabelRow> labels) {
 constexpr Control SomeLabels(int id, std::span<const LabelRow> labels,
                              std::span<const std::int32_t> offered) {
   return {.kind = Kind::kLabels, .id = id, .labels = labels, .offered = offered};
+}
+/// A combo box whose row numbers, from 0 on, are the values; any other value, and no selection, is
+/// 0. The page fills it with `rows` rows.
+constexpr Control ChosenRow(int id, int rows) {
+  return {.kind = Kind::kRow, .id = id, .buttons = rows};
 }
 /// One check box for each bit of an integer, lowest bit first. Other bits are not carried over.
 constexpr Control Bits(std::span<const int> boxes) {
@@ -180,6 +202,8 @@ consteval bool Fits(const Row& row, int index) {
       return !isText && !isBool;
     case Kind::kLabels:
       return !isText && !isBool && !control.labels.empty() && OffersKnownIds(control);
+    case Kind::kRow:
+      return !isText && !isBool && control.buttons >= 1;
     case Kind::kBits:
       return !isText && !isBool && control.boxes.size() <= 31;
   }
@@ -223,7 +247,7 @@ consteval Table<kRows> MakeTable(const Row (&rows)[kRows]) {
 /// The values of a table on their way between store and controls; lives for one exchange.
 class Values {
  public:
-  /// Reads every value in table order.
+  /// Reads every value in table order, except those that a load leaves alone.
   Values(const TableView& table, INTERNAL_IFC::IConfigDataMgr& store);
   /// Exchanges every control; a save checks the ranges and raises CUserException at the first
   /// value that is refused.

@@ -32,6 +32,13 @@ void FillWithLabels(CComboBox& combo, const page_values::Control& control) {
 
 }  // namespace
 
+std::optional<int> ChosenId(const CWnd& page, int combo) {
+  const auto* box = dynamic_cast<const CComboBox*>(page.GetDlgItem(combo));
+  const int row = box != nullptr ? box->GetCurSel() : CB_ERR;
+  if (row < 0) return std::nullopt;
+  return static_cast<int>(box->GetItemData(row));
+}
+
 CValuePage::CValuePage(UINT templateId, const PageDescription& description)
     : CConfigDialog(templateId),
       description_(description),

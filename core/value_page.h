@@ -4,6 +4,7 @@
 // headings, its enabling rules) and the few things that are its own; getting the store, reading,
 // exchanging, validating and writing happens here, once for all pages.
 
+#include <optional>
 #include <vector>
 
 #include "controls/config_color_button.h"
@@ -22,6 +23,15 @@ struct EnablingRule {
 template <int... kIds>
 bool WhenChecked(const CWnd& page) {
   return (... && (page.IsDlgButtonChecked(kIds) != 0));
+}
+
+/// The id that the combo box keeps with its chosen row; nothing without a choice.
+std::optional<int> ChosenId(const CWnd& page, int combo);
+
+/// Predicate of an enabling rule: the chosen row of the combo box is that of the id.
+template <int kCombo, int kId>
+bool WhenChosen(const CWnd& page) {
+  return ChosenId(page, kCombo) == kId;
 }
 
 /// What a page does while its host has no store.

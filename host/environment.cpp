@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "hollerin/com_registrar.h"
 #include "host/exit_status.h"
 #include "host/folders.h"
 
@@ -70,6 +71,7 @@ void Environment::SetUp() {
   application.appFolder = WithSeparator(ApplicationFolder(stores_.Folder()));
   application.langFolder = WithSeparator(LanguageFolder(arguments_.languageFolder));
   application.langFile = LanguageFile();
+  application.dataFolder = WithSeparator(stores_.Folder());
   if (machine_ != nullptr) {
     application.defaultConfig = machine_->DefaultConfig();
     application.defaultMaster = machine_->DefaultMaster();
@@ -91,6 +93,14 @@ void Environment::StayInside() {
 void Environment::Report(const QString& text) {
   PrintError(text);
   if (log_ != nullptr) log_->LogLine(text.toStdWString());
+}
+
+void Environment::ApplyShellSettings() {
+  if (FAILED(HOLLERIN::ApplyShellSettings(stores_.Get(kConfig)))) {
+    Report(
+        QStringLiteral("The desktop integration cannot be recorded in %1.").arg(stores_.Folder()));
+    allSaved_ = false;
+  }
 }
 
 bool Environment::ReportSaved(const QStringList& failed) {

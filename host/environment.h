@@ -37,6 +37,9 @@ class Environment {
   void Report(const QString& text);
   /// Reports stores that could not be saved; whether all were.
   bool ReportSaved(const QStringList& failed);
+  /// Registers the application with the desktop as the confirmed configuration wants; reports a
+  /// failure.
+  void ApplyShellSettings();
   /// Whether no store has failed to be saved so far.
   bool AllSaved() const { return allSaved_; }
 

@@ -9,6 +9,8 @@
 #include <limits>
 
 #include "host/json_shape.h"
+#include "platform/registry.h"
+#include "platform/text.h"
 
 namespace {
 
@@ -65,6 +67,21 @@ const Shape::Check& MachineShape() {
   });
   return shape;
 }
+
+// The one registry value that a machine file may state.
+constexpr wchar_t kBrowserKey[] =
+    L"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Internet Explorer\\Main";
+constexpr wchar_t kBrowserExtensions[] = L"Enable Browser Extensions";
+
+// The steps of the shell registrar as the functions and operations that take them.
+struct RegistrarStep {
+  const char* name;
+  const wchar_t* operation;
+};
+constexpr RegistrarStep kRegistrarSteps[] = {{"create", L"CreateCOMRegistrar"},
+                                             {"associations", L"GetShellIntegration"},
+                                             {"hotkey", L"GetHotKeyEnabled"},
+                                             {"file", L"GetFileContextMenu"}};
 
 HOLLERIN::Value ToValue(const QJsonValue& value) {
   if (value.isBool()) return value.toBool();
@@ -153,6 +170,11 @@ std::shared_ptr<const MachineFile> MachineFile::Load(const QString& path, QStrin
 void MachineFile::Take(const QJsonObject& facts) {
   dpi_ = facts["dpi"].toInt(0);
   if (facts.contains("portable")) portable_ = facts["portable"].toBool();
+  if (facts.contains("processors")) processors_ = facts["processors"].toInt();
+  if (facts.contains("registrar")) TakeRegistrar(facts["registrar"].toObject());
+  if (const QJsonValue text = facts["browserExtensions"]; text.isString()) {
+    browserExtensions_ = text.toString().toStdWString();
+  }
   if (const QJsonValue language = facts["language"]; language.isNull()) {
     language_.emplace(std::nullopt);
   } else if (language.isString()) {
@@ -174,7 +196,30 @@ void MachineFile::Take(const QJsonObject& facts) {
   defaultMaster_ = ToValues(defaults["master"]);
 }
 
+void MachineFile::TakeRegistrar(const QJsonObject& registrar) {
+  registration_ = {.resultFiles = registrar["srf"].toBool(),
+                   .folderMenu = registrar["folder"].toBool(),
+                   .fileMenu = registrar["file"].toBool(),
+                   .searchKey = registrar["f3"].toBool(),
+                   .hotKey = registrar["hotkey"].toBool()};
+  for (const RegistrarStep& step : kRegistrarSteps) {
+    if (registrar["fails"] == step.name) fails_.insert(step.operation);
+  }
+}
+
 bool MachineFile::Portable() const { return portable_ ? *portable_ : Machine::Portable(); }
+
+int MachineFile::Processors() const { return processors_ ? *processors_ : Machine::Processors(); }
+
+std::optional<ShellRegistration> MachineFile::Registration() const {
+  return registration_ ? registration_ : Machine::Registration();
+}
+
+std::optional<RegistryKey> MachineFile::FindRegistryKey(std::wstring_view path) const {
+  const bool stated = CString(std::wstring(path)).CompareNoCase(kBrowserKey) == 0;
+  if (!stated || !browserExtensions_) return Machine::FindRegistryKey(path);
+  return RegistryKey{{kBrowserExtensions, {REG_SZ, ToRegistryText(*browserExtensions_)}}};
+}
 
 std::optional<std::optional<std::wstring>> MachineFile::LanguageFile() const {
   return language_ ? language_ : Machine::LanguageFile();

@@ -32,6 +32,9 @@ class MachineFile : public Machine {
   static std::shared_ptr<const MachineFile> Load(const QString& path, QString& error);
 
   bool Portable() const override;
+  int Processors() const override;
+  std::optional<ShellRegistration> Registration() const override;
+  std::optional<RegistryKey> FindRegistryKey(std::wstring_view path) const override;
   std::optional<std::optional<std::wstring>> LanguageFile() const override;
   bool Fails(std::wstring_view operation) const override;
   std::map<wchar_t, std::wstring> Drives() const override;
@@ -54,10 +57,14 @@ class MachineFile : public Machine {
 
  private:
   void Take(const QJsonObject& facts);
+  void TakeRegistrar(const QJsonObject& registrar);
 
   int dpi_ = 0;
   std::shared_ptr<Outside> outside_;  ///< Empty while the program is used by a person.
   std::optional<bool> portable_;
+  std::optional<int> processors_;
+  std::optional<ShellRegistration> registration_;
+  std::optional<std::wstring> browserExtensions_;
   std::optional<std::optional<std::wstring>> language_;
   std::set<std::wstring, std::less<>> fails_;
   std::optional<bool> soundPlays_;

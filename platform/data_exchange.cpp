@@ -203,6 +203,15 @@ void DDX_CBStringExact(CDataExchange* exchange, int id, CString& value) {
   combo->SetCurSel(row < count ? row : -1);
 }
 
+void DDX_CBIndex(CDataExchange* exchange, int id, int& row) {
+  ControlView<CComboBox> combo(exchange->PrepareCtrl(id)->m_hWnd);
+  if (exchange->m_bSaveAndValidate) {
+    row = combo->GetCurSel();
+  } else {
+    combo->SetCurSel(row);
+  }
+}
+
 void DDX_Slider(CDataExchange* exchange, int id, int& value) {
   ControlView<CSliderCtrl> slider(exchange->PrepareCtrl(id)->m_hWnd);
   if (exchange->m_bSaveAndValidate) {

@@ -1,5 +1,7 @@
 #include "platform/machine.h"
 
+#include <QThread>
+#include <algorithm>
 #include <filesystem>
 
 #include "platform/user_folder.h"
@@ -25,6 +27,14 @@ bool Machine::Portable() const {
   const std::filesystem::path folder = ProgramFolder();
   std::error_code error;
   return !folder.empty() && std::filesystem::exists(folder / kPortableMark, error);
+}
+
+int Machine::Processors() const { return std::max(1, QThread::idealThreadCount()); }
+
+std::optional<ShellRegistration> Machine::Registration() const { return std::nullopt; }
+
+std::optional<RegistryKey> Machine::FindRegistryKey(std::wstring_view) const {
+  return std::nullopt;
 }
 
 std::optional<std::optional<std::wstring>> Machine::LanguageFile() const { return std::nullopt; }

@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/types.h"
+
 constexpr const char* kPortableMark = "portable";
 
 /// An external editor that a machine dictates.
@@ -18,6 +20,24 @@ struct EditorFact {
   bool isDefault = false;
 };
 
+/// How the application is woven into the desktop.
+struct ShellRegistration {
+  bool resultFiles = false;  ///< Opens files of search results.
+  bool folderMenu = false;   ///< Stands in the context menu of folders.
+  bool fileMenu = false;     ///< Stands in the context menu of files.
+  bool searchKey = false;    ///< Takes the place of the file manager's search.
+  bool hotKey = false;       ///< Comes up at a global hot key.
+  bool operator==(const ShellRegistration&) const = default;
+};
+
+/// A value of the registry: its type (REG_SZ, ...) and its bytes as they stand there.
+struct RegistryValue {
+  DWORD type = 0;
+  std::vector<BYTE> bytes;
+};
+/// The values of one key by name.
+using RegistryKey = std::map<std::wstring, RegistryValue>;
+
 class Machine {
  public:
   virtual ~Machine();
@@ -25,6 +45,17 @@ class Machine {
   /// Whether the application runs as a portable installation: a file named kPortableMark lies
   /// beside the program.
   virtual bool Portable() const;
+
+  /// The processors that this process may use; at least 1.
+  virtual int Processors() const;
+
+  /// How the application is woven into the desktop, when the machine dictates it; empty when the
+  /// registrar's own record counts.
+  virtual std::optional<ShellRegistration> Registration() const;
+
+  /// The registry key with that path, its root's name included ("HKEY_CURRENT_USER\\SOFTWARE"), in
+  /// whatever case; empty when there is none. The real machine has no registry.
+  virtual std::optional<RegistryKey> FindRegistryKey(std::wstring_view path) const;
 
   /// The language file in use when the machine dictates one. The outer optional is empty when the
   /// configuration decides; the inner one is empty when there shall be no language manager.

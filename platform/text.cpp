@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/module.h"
+#include "platform/qt/peer.h"
 #include "platform/resource_script.h"
 
 namespace {
@@ -90,6 +91,14 @@ std::optional<std::wstring> FromUtf8Strict(std::string_view bytes) {
   auto [text, valid] = Decode(bytes);
   if (!valid) return std::nullopt;
   return std::move(text);
+}
+
+std::wstring FromUtf16(std::span<const BYTE> bytes) {
+  QString text;
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    text += QChar(static_cast<char16_t>(bytes[i] | bytes[i + 1] << 8));
+  }
+  return FromQt(text);
 }
 
 CString CString::Left(int count) const {

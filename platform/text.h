@@ -3,6 +3,7 @@
 // CString, the text of dialogs, and conversions between wide text and UTF-8.
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -18,6 +19,10 @@ std::wstring FromUtf8(std::string_view bytes);
 
 /// As FromUtf8, but nothing when any byte is malformed.
 std::optional<std::wstring> FromUtf8Strict(std::string_view bytes);
+
+/// Wide text of UTF-16 with the lower byte of each unit first; a lone surrogate becomes U+FFFD, and
+/// a last odd byte does not count.
+std::wstring FromUtf16(std::span<const BYTE> bytes);
 
 /// One argument of FormatText: a text or an integer.
 using FormatArgument = std::variant<std::wstring, long long>;

@@ -20,6 +20,8 @@ using LRESULT = std::intptr_t;
 using INT_PTR = std::intptr_t;
 using UINT_PTR = std::uintptr_t;
 using DWORD_PTR = std::uintptr_t;
+/// VARIANT_TRUE or VARIANT_FALSE.
+using VARIANT_BOOL = std::int16_t;
 using LPCWSTR = const wchar_t*;
 
 /// Red in the low byte, then green, then blue.
@@ -27,6 +29,8 @@ using COLORREF = std::uint32_t;
 
 #define TRUE 1
 #define FALSE 0
+constexpr VARIANT_BOOL VARIANT_TRUE = -1;
+constexpr VARIANT_BOOL VARIANT_FALSE = 0;
 
 // Handles are opaque and guarded: one that outlives its object is recognised as stale by every
 // function that takes it.

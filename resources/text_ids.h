@@ -16,6 +16,7 @@ constexpr unsigned kGroupGeneral = 76;
 constexpr unsigned kPageFileLists = 45;
 constexpr unsigned kPageFolders = 46;
 constexpr unsigned kPageJunctions = 47;
+constexpr unsigned kPageThreads = 48;
 constexpr unsigned kPageTransform = 49;
 constexpr unsigned kPageDefaultEditor = 51;
 constexpr unsigned kPageExternalEditor = 52;
@@ -25,6 +26,9 @@ constexpr unsigned kPageDos = 71;
 constexpr unsigned kPageRegex = 72;
 constexpr unsigned kPageHash = 73;
 constexpr unsigned kPageHistory = 77;
+constexpr unsigned kPageDisplay = 78;
+constexpr unsigned kPageCharacters = 79;
+constexpr unsigned kPageShell = 80;
 constexpr unsigned kPageAlerts = 81;
 constexpr unsigned kPageUserInterface = 82;
 constexpr unsigned kPageSearch = 162;
@@ -54,6 +58,7 @@ constexpr unsigned kTranslationFailed = 394;
 constexpr unsigned kProblemRunningTask = 539;
 constexpr unsigned kErrorOccurred = 540;
 constexpr unsigned kAdditionalInformation = 541;
+constexpr unsigned kAskReplaceF3 = 767;
 
 // Columns by which results are sorted.
 constexpr unsigned kColumnNone = 367;
@@ -74,6 +79,19 @@ constexpr unsigned kTabText = 376;
 constexpr unsigned kTabSummary = 29;
 constexpr unsigned kTabProperties = 389;
 constexpr unsigned kTabPreview = 478;
+// What is cut off from texts that do not fit.
+constexpr unsigned kCutEnd = 602;
+constexpr unsigned kCutStart = 603;
+constexpr unsigned kCutMiddle = 604;
+constexpr unsigned kCutNothing = 605;
+
+// Priorities, and speeds by the number of threads; the lowest of both share a text.
+constexpr unsigned kPriorityNormal = 15;
+constexpr unsigned kPriorityBelowNormal = 16;
+constexpr unsigned kLow = 17;
+constexpr unsigned kSpeedMaximum = 846;
+constexpr unsigned kSpeedMedium = 847;
+constexpr unsigned kSpeedCustom = 848;
 
 // Names of histories; that of file names is the name of their column. The names of three are put
 // together of two texts each.
@@ -117,5 +135,10 @@ constexpr DialogText kHistorySaveResults = {140, 19};
 // edit box holds before a history is shown.
 constexpr DialogText kHistoryListName = {5562, 1};
 constexpr DialogText kHistoryEditText = {5562, 2};
+
+// What a second start of the application does.
+constexpr DialogText kInstanceAnother = {5536, 9};
+constexpr DialogText kInstanceForShell = {5536, 10};
+constexpr DialogText kInstanceSingle = {5536, 11};
 
 }  // namespace TextId

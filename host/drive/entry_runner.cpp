@@ -71,6 +71,7 @@ EntryResult EntryRunner::Run(const QString& entry, int page) {
   running_ = false;
   if (result.error.isEmpty()) {
     environment_.ReportSaved(environment_.GetStores().SaveAfter(result.status));
+    if (result.status == 0) environment_.ApplyShellSettings();
   } else {
     environment_.Report(QStringLiteral("%1 raised: %2").arg(entry, result.error));
   }

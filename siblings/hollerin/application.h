@@ -53,6 +53,8 @@ struct Application {
   std::wstring langFolder;  ///< Of the language files; ends in a separator.
   /// The language file's name in langFolder; the default language where it cannot be read.
   std::wstring langFile = L"lang-en.xml";
+  /// Where the registrar keeps its record; ends in a separator. Without one it keeps none.
+  std::wstring dataFolder;
   std::optional<Values> defaultConfig;  ///< Replaces the shipped default configuration.
   std::optional<Values> defaultMaster;
   std::shared_ptr<INTERNAL_IFC::ILogMgr> log;

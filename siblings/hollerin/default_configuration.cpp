@@ -24,6 +24,37 @@ constexpr Row kConfiguration[] = {
     {L"Options", L"SearchAsYouType", 0},
     {L"Options", L"SearchAsYouTypeTextTab", 0},
     {L"Options", L"ShowHitCount", false},
+    // Found lines: how many are listed, how much is shown of each, and the lines around a hit; what
+    // does not fit is cut off at its end.
+    {L"Options", L"MaxLineListSize", 10000},
+    {L"Options", L"LimitDisplayChars", 1},
+    {L"Options", L"MaxLineDisplayChars", 1000},
+    {L"Options", L"SurroundLinesBefore", 0},
+    {L"Options", L"SurroundLinesAfter", 0},
+    {L"Options", L"RightAlignLocation", 0},
+    {L"Options", L"CVTruncate", 0},
+    // How text is prepared for matching.
+    {L"Options", L"NormalizeQuotes", 1},
+    {L"Options", L"IncFilenameContents", 0},
+    {L"Options", L"IncFolderContents", 0},
+    {L"Options", L"MatchFullPathFileName", 0},
+    {L"Options", L"EOLUnix", 1},
+    {L"Options", L"EOLMac", 1},
+    {L"Options", L"MaxLineLength", 100000},
+    // The desktop: a second start, and the context menu of many files.
+    {L"Options", L"SingleInstanceMode", 0},
+    {L"Options", L"FastContextMenuDisabled", false},
+    {L"Options", L"FastContextMenu", 50},
+    // Threads: all processors for searching, half of them for indexing; priorities from normal, 0,
+    // to low, 2.
+    {L"Threading", L"Speed", 0},
+    {L"Threading", L"ThreadCount", 1},
+    {L"IndexThreading", L"Speed", 1},
+    {L"IndexThreading", L"ThreadCount", 1},
+    {L"Threading", L"Foreground", 0},
+    {L"Threading", L"Background", 0},
+    {L"Threading", L"Minimized", 1},
+    {L"Threading", L"Indexer", 1},
     // Memory: megabytes, then lines and characters from which on results are reduced.
     {L"MemMgr", L"ApplyToCurrent", false},
     {L"MemMgr", L"UseMemMgr", true},

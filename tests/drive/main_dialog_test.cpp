@@ -8,11 +8,14 @@ constexpr int kOk = 1, kCancel = 2, kRestoreDefaults = 5000, kFrame = 5084, kTre
               kCaption = 5109;
 constexpr int kMainTemplate = 5526;
 
-// The memory page's limits as they must be for the page to be left.
+// The limits of pages as they must be for the pages to be left.
 void WriteGoodLimits(Session& session) {
   session.Write("config", "MemMgr", "UseMemMgr", true);
   for (const char* key : {"MaxSearchMem", "ReduceLines", "ReduceChars"}) {
     session.Write("config", "MemMgr", key, 100);
+  }
+  for (const char* key : {"MaxLineListSize", "MaxLineLength"}) {
+    session.Write("config", "Options", key, 100);
   }
 }
 
@@ -46,7 +49,7 @@ TEST(MainDialog, OpensWithTheWantedPage) {
 
 TEST(MainDialog, EveryPageOfTheTreeCanBeShown) {
   const TemporaryFolder data;
-  Session session(data);
+  Session session(data, {{"processors", 4}});
   WriteGoodLimits(session);
   session.Write("config", "Options", "MaxNearDistance", 5);
   session.Write("config", "Options", "RegExMaxLines", 5);

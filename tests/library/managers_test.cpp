@@ -81,10 +81,10 @@ TEST_F(ManagersTest, TheTreeHasItsGroupsAndPagesInOrder) {
     std::int32_t image;
     std::vector<std::int32_t> pages;
   };
-  const Node expected[] = {{TextId::kGroupGeneral, 4, 0, {7, 27, 29, 12, 26, 30, 24}},
+  const Node expected[] = {{TextId::kGroupGeneral, 4, 0, {7, 5, 27, 29, 6, 10, 12, 26, 30, 24}},
                            {TextId::kGroupExpressions, 22, 1, {19, 23, 21, 20}},
                            {TextId::kGroupEditor, 8, 2, {2, 3, 25}},
-                           {TextId::kGroupAdvanced, 13, 3, {17, 11, 16, 28, 14}}};
+                           {TextId::kGroupAdvanced, 13, 3, {17, 11, 16, 28, 9, 14}}};
   CConfigMgr root(store);
   EntryList groups(7);
   ASSERT_EQ(root.GetChildren(groups), 4);

@@ -246,6 +246,19 @@ TEST_F(DataExchange, SelectsRowsOfExactlyThatText) {
   }
 }
 
+TEST_F(DataExchange, CarriesTheNumberOfTheChosenRow) {
+  ControlView<CComboBox> combo(dialog_.GetDlgItem(kCombo)->m_hWnd);
+  for (const wchar_t* text : {L"same", L"same", L"same"}) combo->AddString(text);
+  for (const auto& [value, row] : {std::pair{2, 2}, {0, 0}, {3, -1}, {1, 1}, {-1, -1}}) {
+    int carried = value;
+    const auto exchange = [&](CDataExchange* data) { DDX_CBIndex(data, kCombo, carried); };
+    EXPECT_TRUE(Exchange(FALSE, exchange));
+    carried = -99;
+    EXPECT_TRUE(Exchange(TRUE, exchange));
+    EXPECT_EQ(carried, row) << value;
+  }
+}
+
 TEST_F(DataExchange, CarriesSliders) {
   ControlView<CSliderCtrl>(dialog_.GetDlgItem(kSlider)->m_hWnd)->SetRange(0, 10);
   int value = 4;

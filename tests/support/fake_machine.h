@@ -9,6 +9,14 @@
 #include "platform/machine.h"
 
 struct FakeMachine : Machine {
+  bool Portable() const override { return portable; }
+  int Processors() const override { return processors; }
+  std::optional<ShellRegistration> Registration() const override { return registration; }
+  std::optional<RegistryKey> FindRegistryKey(std::wstring_view path) const override {
+    const auto key = registry.find(std::wstring(path));
+    if (key == registry.end()) return std::nullopt;
+    return key->second;
+  }
   std::map<wchar_t, std::wstring> Drives() const override { return drives; }
   std::optional<std::map<std::wstring, std::wstring>> Folders() const override { return folders; }
   bool Fails(std::wstring_view operation) const override { return operation == fails; }
@@ -21,6 +29,10 @@ struct FakeMachine : Machine {
   std::vector<std::string> ComponentFolders() const override { return componentFolders; }
   std::optional<bool> PlaysSound(std::wstring_view) const override { return sound; }
 
+  bool portable = false;
+  int processors = 4;
+  std::optional<ShellRegistration> registration;
+  std::map<std::wstring, RegistryKey> registry;
   std::map<wchar_t, std::wstring> drives;
   std::optional<std::map<std::wstring, std::wstring>> folders;
   std::wstring fails;

@@ -70,8 +70,8 @@ TEST(EditorPages, EveryValueIsSavedInItsTypeAndCancelLeavesTheStoreAlone) {
     for (const Change& change : kChanges) {
       ASSERT_EQ(session.Select(change.page), change.page);
       const Json control = session.Get(change.control);
-      change.text != nullptr ? EXPECT_EQ(control["text"], change.text)
-                             : EXPECT_EQ(control["checked"], 1);
+      const Json shown = change.text != nullptr ? control["text"] : control["checked"];
+      EXPECT_EQ(shown, change.text != nullptr ? Json(change.text) : Json(1)) << change.key;
     }
   }
 }

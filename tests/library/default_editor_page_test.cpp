@@ -3,6 +3,7 @@
 #include "pages/formats/default_editor_page.h"
 
 #include <QAbstractButton>
+#include <QButtonGroup>
 
 #include "environment.h"
 #include "page_fixture.h"
@@ -77,12 +78,12 @@ TEST_F(DefaultEditorPage, ButtonsCountInTheirOrderOfPrecedence) {
     store->values->WriteInt(L"Editor", kKey, 9);
     CConfigEntryEditorDefaultDlg page;
     Open(page);
-    for (const int id : kButtons) {
-      // The buttons of a group exclude each other; here each is one for itself.
-      qobject_cast<QAbstractButton*>(WidgetOf(IDD_DEFAULT_EDITOR_PAGE, id))
-          ->setAutoExclusive(false);
-    }
-    for (const int id : row.checked) page.CheckDlgButton(id, BST_CHECKED);
+    // As in a group whose buttons do not exclude each other.
+    const auto button = [](int id) {
+      return qobject_cast<QAbstractButton*>(WidgetOf(IDD_DEFAULT_EDITOR_PAGE, id));
+    };
+    button(kButtons[0])->group()->setExclusive(false);
+    for (const int id : row.checked) button(id)->setChecked(true);
     EXPECT_TRUE(SavePage(page));
     EXPECT_EQ(store->values->ReadInt(L"Editor", kKey, 0), row.saved);
   }

@@ -17,6 +17,12 @@ class CConfigInterpreterListMgr : public INTERNAL_IFC::IConfigInterpreterListMgr
     store->ClearSection(kFilterSection);
     return S_OK;
   }
+
+  // Until there is a list.
+  HRESULT LoadDefaultList(const std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>&,
+                          std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList>&) override {
+    return E_NOTIMPL;
+  }
 };
 
 }  // namespace

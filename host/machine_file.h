@@ -41,6 +41,8 @@ class MachineFile : public Machine {
   std::optional<std::map<std::wstring, std::wstring>> Folders() const override;
   std::optional<std::vector<EditorFact>> Editors() const override;
   std::optional<std::vector<std::wstring>> Components() const override;
+  std::optional<std::vector<DocumentFilter>> DocumentFilters() const override;
+  std::optional<std::vector<OcrLanguage>> OcrLanguages() const override;
   bool Opens(std::wstring_view nativePath) const override;
   std::optional<bool> PlaysSound(std::wstring_view path) const override;
   bool UsesToolkitPickers() const override;
@@ -72,6 +74,8 @@ class MachineFile : public Machine {
   std::optional<std::map<wchar_t, std::wstring>> drives_;
   std::optional<std::vector<EditorFact>> editors_;
   std::optional<std::vector<std::wstring>> components_;
+  std::optional<std::vector<DocumentFilter>> filters_;
+  std::optional<std::vector<OcrLanguage>> ocrLanguages_;
   std::optional<ThrowRule> throws_;
   std::optional<HOLLERIN::Values> defaultConfig_;
   std::optional<HOLLERIN::Values> defaultMaster_;

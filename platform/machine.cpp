@@ -58,6 +58,9 @@ std::vector<std::string> Machine::ComponentFolders() const {
   if (const auto data = UserDataFolder()) folders.push_back(*data + "/quarrow/components");
   return folders;
 }
+std::optional<std::vector<DocumentFilter>> Machine::DocumentFilters() const { return std::nullopt; }
+
+std::optional<std::vector<OcrLanguage>> Machine::OcrLanguages() const { return std::nullopt; }
 
 bool Machine::Opens(std::wstring_view) const { return false; }
 

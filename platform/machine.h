@@ -10,33 +10,9 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/types.h"
+#include "platform/machine_facts.h"
 
 constexpr const char* kPortableMark = "portable";
-
-/// An external editor that a machine dictates.
-struct EditorFact {
-  std::wstring name;
-  bool isDefault = false;
-};
-
-/// How the application is woven into the desktop.
-struct ShellRegistration {
-  bool resultFiles = false;  ///< Opens files of search results.
-  bool folderMenu = false;   ///< Stands in the context menu of folders.
-  bool fileMenu = false;     ///< Stands in the context menu of files.
-  bool searchKey = false;    ///< Takes the place of the file manager's search.
-  bool hotKey = false;       ///< Comes up at a global hot key.
-  bool operator==(const ShellRegistration&) const = default;
-};
-
-/// A value of the registry: its type (REG_SZ, ...) and its bytes as they stand there.
-struct RegistryValue {
-  DWORD type = 0;
-  std::vector<BYTE> bytes;
-};
-/// The values of one key by name.
-using RegistryKey = std::map<std::wstring, RegistryValue>;
 
 class Machine {
  public:
@@ -82,6 +58,12 @@ class Machine {
   /// The folders with the registrations of components, best first: "components" beside the program,
   /// and "quarrow/components" among the user's data.
   virtual std::vector<std::string> ComponentFolders() const;
+
+  /// The document filters, when the machine dictates them; empty when they are to be found.
+  virtual std::optional<std::vector<DocumentFilter>> DocumentFilters() const;
+
+  /// The recognition languages, when the machine dictates them; empty when they are to be found.
+  virtual std::optional<std::vector<OcrLanguage>> OcrLanguages() const;
 
   /// Opens a file or folder of this system in the desktop's place; false leaves it to the desktop.
   virtual bool Opens(std::wstring_view nativePath) const;

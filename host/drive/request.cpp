@@ -12,7 +12,7 @@
 
 namespace {
 
-enum class Kind { Integer, Text, Bool, Value, Texts, Integers };
+enum class Kind { Integer, Text, Bool, Value, Texts, Integers, Objects };
 
 struct Argument {
   const char* name;
@@ -73,6 +73,7 @@ const std::vector<Verb>& Verbs() {
         {"type", Kind::Text},
         {"value", Kind::Value}}},
       {"dump", {{"store", Kind::Text}}},
+      {"interpreters", {{"set", Kind::Objects, false}}},
       {"terms", {{"set", Kind::Integers, false}}},
       {"log", {}},
       {"clipboard", {}},
@@ -112,6 +113,8 @@ bool Fits(Kind kind, const QJsonValue& value) {
       return IsListOf(value, IsText);
     case Kind::Integers:
       return IsListOf(value, IsInteger);
+    case Kind::Objects:
+      return IsListOf(value, [](const QJsonValue& item) { return item.isObject(); });
   }
   return false;
 }
@@ -130,6 +133,8 @@ QString KindName(Kind kind) {
       return QStringLiteral("a list of texts");
     case Kind::Integers:
       return QStringLiteral("a list of whole numbers of 32 bits");
+    case Kind::Objects:
+      return QStringLiteral("a list of objects");
   }
   return {};
 }

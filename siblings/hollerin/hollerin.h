@@ -7,9 +7,12 @@
 #include <string>
 
 #include "ifc/config_data_mgr.h"
+#include "ifc/config_interpreter_list.h"
+#include "ifc/filter_mgr.h"
 #include "ifc/global_mgr.h"
 #include "ifc/interpreter_list_mgr.h"
 #include "ifc/language_mgr.h"
+#include "ifc/ocr_lang_map.h"
 #include "platform/types.h"
 
 namespace HOLLERIN {
@@ -44,5 +47,26 @@ HRESULT TranslateMenu(int menu, HMENU handle);
 
 HRESULT CreateConfigInterpreterListMgr(
     std::shared_ptr<INTERNAL_IFC::IConfigInterpreterListMgr>* manager);
+
+using InterpreterListHandle = std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList>;
+
+/// The interpreter list that the store holds, as a new object each time. A store that holds none,
+/// or a damaged one, has the default list: the shipped interpreters and the document filters of the
+/// machine. The store stays as it is. E_FAIL without a store.
+HRESULT LoadCurrentConfigInterpreterList(const StoreHandle& store, InterpreterListHandle* list);
+/// Writes the list into the store; a damaged one that is there is put aside, not overwritten. With
+/// `replace` false a list that the store holds already stays, and the answer is S_FALSE. E_FAIL
+/// without a store or a list.
+HRESULT SaveConfigInterpreterList(const StoreHandle& store, const InterpreterListHandle& list,
+                                  bool replace);
+
+/// The document filters of the machine. The store may be empty: which filters there are does not
+/// depend on it.
+HRESULT CreateFilterMgr(std::shared_ptr<INTERNAL_IFC::IFilterMgr>* manager,
+                        const StoreHandle& store);
+
+/// The languages that the recognition engine knows, with those that it can use at the moment of the
+/// call.
+HRESULT LoadOCRLangMap(std::shared_ptr<INTERNAL_IFC::IOCRLangMap>* map);
 
 }  // namespace HOLLERIN

@@ -54,8 +54,9 @@ class ListDialog : public CDialog {
     return TRUE;
   }
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-    menus += message == WM_CONTEXTMENU ? 1 : 0;
-    return CDialog::WindowProc(message, wParam, lParam);
+    if (message != WM_CONTEXTMENU) return CDialog::WindowProc(message, wParam, lParam);
+    ++menus;
+    return 0;
   }
 
  private:
@@ -137,7 +138,7 @@ TEST(ListVerbs, ActOnRowsAsAPersonDoes) {
             "A person cannot click below the rows of control 7 (list) of template 500: they fill "
             "it.");
   EXPECT_EQ(Refusal([&] { ActOnRow(full.Widget(), 1, "kick"); }),
-            "There is no action \"kick\"; there are select, double or context.");
+            "There is no action \"kick\"; there are \"select\", \"double\" or \"context\".");
 }
 
 TEST(ProgressVerbs, DescribeAndDismiss) {

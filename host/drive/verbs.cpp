@@ -11,6 +11,7 @@
 #include "host/drive/describe.h"
 #include "host/drive/entry_runner.h"
 #include "host/drive/interpreter_verb.h"
+#include "host/drive/list_rows.h"
 #include "host/drive/picker_actions.h"
 #include "host/drive/request.h"
 #include "host/drive/request_error.h"
@@ -104,6 +105,22 @@ Plan Slide(Context& context, const Request& request) {
 Plan Colour(Context& context, const Request& request) {
   return OnControl(context, request, [value = request.Int("value")](QWidget* control) {
     ChooseColour(control, value);
+  });
+}
+
+Plan Rows(Context& context, const Request& request) {
+  return Reply(DescribeRows(FindControl(context.windows, request)));
+}
+
+Plan Check(Context& context, const Request& request) {
+  return OnControl(context, request, [row = request.Int("row"), request](QWidget* control) {
+    CheckRow(control, row, request.arguments["on"].toBool());
+  });
+}
+
+Plan Row(Context& context, const Request& request) {
+  return OnControl(context, request, [request](QWidget* control) {
+    ActOnRow(control, request.Int("row"), request.Text("action"));
   });
 }
 
@@ -245,6 +262,9 @@ constexpr Verb kVerbs[] = {
     {"pick", Pick},
     {"slide", Slide},
     {"colour", Colour},
+    {"rows", Rows},
+    {"check", Check},
+    {"row", Row},
     {"tree", Tree},
     {"select", Select},
     {"press", Press},

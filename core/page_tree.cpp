@@ -8,8 +8,12 @@
 #include "pages/formats/dos_page.h"
 #include "pages/formats/editor_group_page.h"
 #include "pages/formats/expression_group_page.h"
+#include "pages/formats/extension_group_page.h"
+#include "pages/formats/extension_mgr.h"
+#include "pages/formats/filters_page.h"
 #include "pages/formats/hash_page.h"
 #include "pages/formats/regex_page.h"
+#include "pages/formats/utf8_page.h"
 #include "pages/general/alerts_page.h"
 #include "pages/general/email_page.h"
 #include "pages/general/folders_page.h"
@@ -34,8 +38,12 @@ std::shared_ptr<CConfigDialog> MakeGroupPage() {
 }
 
 template <class Manager>
-EntryHandle MakeManager(const StoreHandle&) {
-  return std::make_shared<Manager>();
+EntryHandle MakeManager(const StoreHandle& config) {
+  if constexpr (std::is_constructible_v<Manager, const StoreHandle&>) {
+    return std::make_shared<Manager>(config);
+  } else {
+    return std::make_shared<Manager>();
+  }
 }
 
 template <class Page>
@@ -71,6 +79,8 @@ constexpr GroupRow kGroups[] = {
                                                    L"Unable to create editor dlg"),
     Group<CConfigAdvMgr, CConfigEntryAdvDlg>(kAdvanced, TextId::kGroupAdvanced, 13, 3,
                                              L"Unable to create advanced dlg"),
+    {kExtensions, TextId::kGroupExtensions, 1, 4, CConfigEntryExtensionMainDlg::IDD,
+     L"Unable to create extension dlg", nullptr, &MakeManager<CConfigExtensionMgr>},
 };
 
 constexpr PageRow kPages[] = {
@@ -86,6 +96,9 @@ constexpr PageRow kPages[] = {
 
     LaidOut<CConfigEntryGeneralFoldersDlg>(kAdvanced, TextId::kPageFolders, 11),
     Leaf<CConfigEntryMemMgrDlg>(kAdvanced, TextId::kPageMemory, 28),
+
+    LaidOut<CConfigEntryGeneralFiltersDlg>(kExtensions, TextId::kPageFilters, 15),
+    LaidOut<CConfigEntryFileTypeUTF8Dlg>(kExtensions, TextId::kPageUtf8, 18),
 };
 
 /// A page id chooses one node, and a template belongs to one page.

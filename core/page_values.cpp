@@ -1,5 +1,6 @@
 #include "core/page_values.h"
 
+#include "core/extension_list.h"
 #include "platform/controls.h"
 
 namespace page_values {
@@ -32,6 +33,13 @@ void ExchangeBits(CDataExchange* exchange, const Control& control, int& bits) {
   bits = shown;
 }
 
+void ExchangeText(CDataExchange* exchange, const Control& control, CString& stored) {
+  if (control.kind == Kind::kEdit) return DDX_Text(exchange, control.id, stored);
+  CString lines = ExtensionLines(stored.Str());
+  DDX_Text(exchange, control.id, lines);
+  stored = ExtensionList(lines.Str());
+}
+
 void ExchangeNumber(CDataExchange* exchange, const Row& row, int& stored) {
   const Control& control = row.control;
   int shown = ToControl(row, stored);
@@ -48,6 +56,9 @@ void ExchangeNumber(CDataExchange* exchange, const Row& row, int& stored) {
       break;
     case Kind::kLabels:
       ExchangeLabel(exchange, control, shown);
+      break;
+    case Kind::kIndex:
+      DDX_CBIndex(exchange, control.id, shown);
       break;
     case Kind::kBits:
       ExchangeBits(exchange, control, shown);
@@ -108,8 +119,8 @@ void Values::Exchange(CDataExchange* exchange) {
   for (const std::uint8_t index : table_.exchanged) {
     const Row& row = table_.rows[index];
     Value& value = values_[index];
-    if (row.control.kind == Kind::kEdit) {
-      DDX_Text(exchange, row.control.id, value.text);
+    if (row.stored.readAs == Type::kText) {
+      ExchangeText(exchange, row.control, value.text);
     } else {
       ExchangeNumber(exchange, row, value.number);
     }

@@ -7,9 +7,7 @@
 
 namespace {
 
-bool ShowsLabels(const page_values::Row& row) {
-  return row.control.kind == page_values::Kind::kLabels;
-}
+bool ShowsLabels(const page_values::Row& row) { return !row.control.labels.empty(); }
 
 /// The labels in table order; each row carries its id for pages that act on a choice.
 void FillWithLabels(CComboBox& combo, std::span<const LabelRow> labels) {

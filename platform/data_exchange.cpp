@@ -203,6 +203,15 @@ void DDX_CBStringExact(CDataExchange* exchange, int id, CString& value) {
   combo->SetCurSel(row < count ? row : -1);
 }
 
+void DDX_CBIndex(CDataExchange* exchange, int id, int& value) {
+  ControlView<CComboBox> combo(exchange->PrepareCtrl(id)->m_hWnd);
+  if (exchange->m_bSaveAndValidate) {
+    value = combo->GetCurSel();
+  } else if (combo->SetCurSel(value) == CB_ERR) {
+    combo->SetCurSel(-1);
+  }
+}
+
 void DDX_Slider(CDataExchange* exchange, int id, int& value) {
   ControlView<CSliderCtrl> slider(exchange->PrepareCtrl(id)->m_hWnd);
   if (exchange->m_bSaveAndValidate) {

@@ -47,6 +47,9 @@ void DDX_Text(CDataExchange* exchange, int id, int& value);
 /// text of the combo.
 void DDX_CBStringExact(CDataExchange* exchange, int id, CString& value);
 
+/// 0-based row of a combo box; -1 for none. A value without a row selects none.
+void DDX_CBIndex(CDataExchange* exchange, int id, int& value);
+
 void DDX_Slider(CDataExchange* exchange, int id, int& value);
 
 /// When saving: a value outside tells the user "Please enter an integer between %1 and %2." and

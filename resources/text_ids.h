@@ -18,9 +18,11 @@ constexpr unsigned kPageBoolean = 70;
 constexpr unsigned kPageDos = 71;
 constexpr unsigned kPageRegex = 72;
 constexpr unsigned kPageHash = 73;
+constexpr unsigned kPageUtf8 = 74;
 constexpr unsigned kPageHistory = 77;
 constexpr unsigned kPageAlerts = 81;
 constexpr unsigned kPageSearch = 162;
+constexpr unsigned kPageFilters = 398;
 constexpr unsigned kPageMemory = 489;
 constexpr unsigned kPageEmail = 647;
 
@@ -33,6 +35,7 @@ constexpr unsigned kSavingConfiguration = 83;
 constexpr unsigned kRestoringDefaults = 85;
 
 // Messages.
+constexpr unsigned kAskResetInterpreters = 57;
 constexpr unsigned kFoundSoundMissing = 59;
 constexpr unsigned kEndSoundMissing = 60;
 constexpr unsigned kSoundNotPlayed = 61;
@@ -50,6 +53,15 @@ constexpr unsigned kColumnSize = 373;
 constexpr unsigned kColumnModified = 384;
 constexpr unsigned kColumnFileName = 445;
 constexpr unsigned kColumnRelevance = 925;
+
+// Document filters: the columns of their list, the title of the dialog shown meanwhile, and what
+// goes first.
+constexpr unsigned kColumnExtension = 65;
+constexpr unsigned kColumnFilter = 66;
+constexpr unsigned kColumnFilterLocation = 67;
+constexpr unsigned kLookingForFilters = 154;
+constexpr unsigned kConvertersFirst = 528;
+constexpr unsigned kFiltersFirst = 529;
 
 // Names of histories; that of file names is the name of their column. The names of three are put
 // together of two texts each.

@@ -6,8 +6,10 @@
 #include "page_fixture.h"
 #include "pages/formats/boolean_page.h"
 #include "pages/formats/dos_page.h"
+#include "pages/formats/filters_page.h"
 #include "pages/formats/hash_page.h"
 #include "pages/formats/regex_page.h"
+#include "pages/formats/utf8_page.h"
 #include "pages/general/alerts_page.h"
 #include "pages/general/email_page.h"
 #include "pages/general/folders_page.h"
@@ -36,6 +38,8 @@ std::shared_ptr<CConfigDialog> Make() {
 using HistoryPage = CConfigEntryGeneralHistoryDlg;
 using FoldersPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralFoldersDlg>;
 using AlertsPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralAlertsDlg>;
+using FiltersPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralFiltersDlg>;
+using Utf8Page = Geometry::CGeometryDynCreateWnd<CConfigEntryFileTypeUTF8Dlg>;
 using EmailPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralEmailDlg>;
 
 const PageFacts kFacts[] = {
@@ -130,6 +134,16 @@ const PageFacts kFacts[] = {
      {L"int Options/HashingAlgorithms 1"},
      {L"int Options/HashingAlgorithms 10"},
      {{L"Options", {{L"HashingAlgorithms", 10}}}}},
+    {"filters",
+     Make<FiltersPage>,
+     {L"bool Filters/IncludeTextFilters false", L"int Options/IFilterPriority 0"},
+     {L"bool Filters/IncludeTextFilters true", L"int Options/IFilterPriority 1"},
+     {{L"Filters", {{L"IncludeTextFilters", true}}}, {L"Options", {{L"IFilterPriority", 1}}}}},
+    {"UTF-8",
+     Make<Utf8Page>,
+     {L"text FileType/UTF8 ", L"bool FileType/AutoDetectUTF8 false"},
+     {L"text FileType/UTF8 txt,*.md", L"bool FileType/AutoDetectUTF8 true"},
+     {{L"FileType", {{L"UTF8", L".txt , ,*.md,"}, {L"AutoDetectUTF8", true}}}}},
 };
 
 class PageFactsTest : public PageTest {

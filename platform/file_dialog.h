@@ -23,9 +23,6 @@ constexpr DWORD FNERR_BUFFERTOOSMALL = 0x3003;
 /// Why the last picker of this process answered IDCANCEL: 0 when the user cancelled it.
 DWORD CommDlgExtendedError();
 
-/// A place in a list of picked names; 0 is behind the last.
-using POSITION = std::uintptr_t;
-
 struct OPENFILENAMEW {
   DWORD Flags = 0;
   /// Characters of the longest text that the picked names together may have, each with a zero at

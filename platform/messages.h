@@ -11,6 +11,7 @@ constexpr UINT WM_DESTROY = 0x0002;
 constexpr UINT WM_SIZE = 0x0005;
 constexpr UINT WM_SETFOCUS = 0x0007;
 constexpr UINT WM_KILLFOCUS = 0x0008;
+constexpr UINT WM_SETREDRAW = 0x000B;
 constexpr UINT WM_PAINT = 0x000F;
 constexpr UINT WM_CLOSE = 0x0010;
 constexpr UINT WM_ERASEBKGND = 0x0014;
@@ -18,15 +19,21 @@ constexpr UINT WM_GETMINMAXINFO = 0x0024;
 constexpr UINT WM_SETFONT = 0x0030;
 constexpr UINT WM_CONTEXTMENU = 0x007B;
 constexpr UINT WM_NOTIFY = 0x004E;
+constexpr UINT WM_KEYFIRST = 0x0100;
 constexpr UINT WM_KEYDOWN = 0x0100;
+constexpr UINT WM_KEYLAST = 0x0109;
 constexpr UINT WM_INITDIALOG = 0x0110;
 constexpr UINT WM_COMMAND = 0x0111;
 constexpr UINT WM_HSCROLL = 0x0114;
+constexpr UINT WM_VSCROLL = 0x0115;
+constexpr UINT WM_MOUSEWHEEL = 0x020A;
 constexpr UINT WM_USER = 0x0400;
 constexpr UINT WM_APP = 0x8000;
 constexpr UINT CB_GETEDITSEL = 0x0140;
 constexpr UINT CB_SETEDITSEL = 0x0142;
 constexpr UINT CB_FINDSTRINGEXACT = 0x0158;
+constexpr UINT LVM_SCROLL = 0x1014;
+constexpr UINT LVM_GETEXTENDEDLISTVIEWSTYLE = 0x1037;
 constexpr UINT TVM_EXPAND = 0x1102;
 
 // Results of a message box or dialog, which are also the control numbers of its buttons.
@@ -146,6 +153,44 @@ constexpr UINT MB_ICONINFORMATION = 0x40;
 constexpr UINT MB_ICONMASK = 0xF0;
 constexpr UINT MB_TASKMODAL = 0x2000;
 
+// Scroll bars of a window.
+constexpr int SB_HORZ = 0;
+constexpr int SB_VERT = 1;
+constexpr UINT SB_THUMBPOSITION = 4;
+constexpr UINT SB_THUMBTRACK = 5;
+
+// Notification codes of WM_NOTIFY that several controls send.
+constexpr UINT NM_CLICK = static_cast<UINT>(-2);
+constexpr UINT NM_DBLCLK = static_cast<UINT>(-3);
+constexpr UINT NM_RCLICK = static_cast<UINT>(-5);
+
+// List view.
+constexpr UINT LVN_ITEMCHANGED = static_cast<UINT>(-101);
+constexpr DWORD LVS_ICON = 0;
+constexpr DWORD LVS_REPORT = 1;
+constexpr DWORD LVS_SMALLICON = 2;
+constexpr DWORD LVS_LIST = 3;
+constexpr DWORD LVS_TYPEMASK = 3;
+constexpr DWORD LVS_SINGLESEL = 0x0004;
+constexpr DWORD LVS_SHOWSELALWAYS = 0x0008;
+constexpr DWORD LVS_AUTOARRANGE = 0x0100;
+constexpr DWORD LVS_NOCOLUMNHEADER = 0x4000;
+constexpr DWORD LVS_EX_CHECKBOXES = 0x00000004;
+constexpr DWORD LVS_EX_FULLROWSELECT = 0x00000020;
+constexpr DWORD LVS_EX_DOUBLEBUFFER = 0x00010000;
+constexpr int LVCFMT_LEFT = 0;
+constexpr int LVCFMT_RIGHT = 1;
+constexpr int LVCFMT_CENTER = 2;
+constexpr UINT LVIF_STATE = 0x0008;
+constexpr UINT LVIS_FOCUSED = 0x0001;
+constexpr UINT LVIS_SELECTED = 0x0002;
+/// The check box: 1 shifted into these bits is unchecked, 2 checked.
+constexpr UINT LVIS_STATEIMAGEMASK = 0xF000;
+constexpr UINT INDEXTOSTATEIMAGEMASK(UINT image) { return image << 12; }
+constexpr UINT LVHT_NOWHERE = 0x0001;
+constexpr UINT LVHT_ONITEMLABEL = 0x0004;
+constexpr UINT LVHT_ONITEMSTATEICON = 0x0008;
+
 // Tree view.
 constexpr UINT TVN_SELCHANGINGW = static_cast<UINT>(-450);
 constexpr UINT TVN_SELCHANGEDW = static_cast<UINT>(-451);
@@ -182,6 +227,31 @@ struct NMTREEVIEW {
   UINT action = 0;
   TVITEMW itemOld;
   TVITEMW itemNew;
+};
+
+/// What has changed in a row of a list view.
+struct NMLISTVIEW {
+  NMHDR hdr;
+  int iItem = -1;
+  int iSubItem = 0;
+  UINT uNewState = 0;
+  UINT uOldState = 0;
+  UINT uChanged = 0;
+  POINT ptAction;
+  LPARAM lParam = 0;  ///< The row's item data.
+};
+
+/// A click on a list view; iItem is -1 where there is no row.
+struct NMITEMACTIVATE {
+  NMHDR hdr;
+  int iItem = -1;
+  int iSubItem = 0;
+  UINT uNewState = 0;
+  UINT uOldState = 0;
+  UINT uChanged = 0;
+  POINT ptAction;  ///< In client coordinates.
+  LPARAM lParam = 0;
+  UINT uKeyFlags = 0;
 };
 
 /// Asks for the text of a tooltip. With TTF_IDISHWND hdr.idFrom is the handle of the control.

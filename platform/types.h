@@ -22,6 +22,9 @@ using UINT_PTR = std::uintptr_t;
 using DWORD_PTR = std::uintptr_t;
 using LPCWSTR = const wchar_t*;
 
+/// A place in a list that is walked through; 0 is behind the last.
+using POSITION = std::uintptr_t;
+
 /// Red in the low byte, then green, then blue.
 using COLORREF = std::uint32_t;
 

@@ -113,6 +113,8 @@ void CWnd::UpdateWindow() {
     QCoreApplication::sendPostedEvents(peer->widget->window(), QEvent::UpdateRequest);
 }
 
+void CWnd::SetRedraw(BOOL redraw) { SendMessage(WM_SETREDRAW, redraw != FALSE ? 1 : 0); }
+
 void CWnd::GetWindowRect(CRect& rect) const {
   const Peer* peer = LivingPeer(m_hWnd);
   if (peer == nullptr) return;

@@ -51,6 +51,8 @@ class CWnd : public CCmdTarget {
   static CWnd* GetFocus();
   void Invalidate();
   void UpdateWindow();
+  /// Keeps the window from being painted until it is allowed again, which paints it.
+  void SetRedraw(BOOL redraw = TRUE);
 
   /// In screen coordinates. The frame that the desktop draws around a top-level dialog is not
   /// counted here or in any other position or size.

@@ -35,6 +35,7 @@ void ApplyStyle(Peer& peer, DWORD style) {
   const HWND window = peer.handle;
   const DWORD changed = StyleOf(peer) ^ style;
   peer.style = style;
+  peer.OnStyleChanged(changed);
   if ((changed & WS_TABSTOP) != 0) ApplyTabStop(peer);
   if ((changed & WS_THICKFRAME) != 0) UpdateTrackSize(peer);
   if (FindPeer(window) == nullptr) return;

@@ -48,6 +48,12 @@
 #define LBS_HASSTRINGS 0x40
 #define LBS_NOINTEGRALHEIGHT 0x100
 
+// List views.
+#define LVS_REPORT 0x1
+#define LVS_LIST 0x3
+#define LVS_SINGLESEL 0x4
+#define LVS_SHOWSELALWAYS 0x8
+
 // Combo boxes.
 #define CBS_DROPDOWNLIST 0x3
 #define CBS_OWNERDRAWFIXED 0x10

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QProgressDialog>
 #include <QRadioButton>
 #include <QSlider>
 #include <algorithm>
@@ -120,6 +121,10 @@ bool HasFocus(const QWidget* control) {
 
 }  // namespace
 
+bool IsProgress(const QWidget* window) {
+  return qobject_cast<const QProgressDialog*>(window) != nullptr;
+}
+
 QString PlainText(const QString& text) {
   QString plain;
   for (qsizetype at = 0; at < text.size(); ++at) {
@@ -139,6 +144,7 @@ QString NameWindow(const QWidget* window) {
   }
   if (qobject_cast<const QMenu*>(window) != nullptr) return QStringLiteral("a popup menu");
   if (IsPicker(window)) return QStringLiteral("the picker \"%1\"").arg(title);
+  if (IsProgress(window)) return QStringLiteral("the progress window \"%1\"").arg(title);
   return QStringLiteral("the window \"%1\"").arg(title);
 }
 
@@ -147,6 +153,7 @@ QJsonObject DescribeWindow(const QWidget* window) {
   if (const auto* box = qobject_cast<const QMessageBox*>(window)) return DescribeMessage(*box);
   if (const auto* menu = qobject_cast<const QMenu*>(window)) return DescribeMenu(*menu);
   if (IsPicker(window)) return DescribePicker(*window);
+  if (IsProgress(window)) return {{"kind", "progress"}, {"title", window->windowTitle()}};
   return {{"kind", "tool"}, {"title", window->windowTitle()}};
 }
 

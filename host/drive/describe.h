@@ -8,6 +8,8 @@
 class QWidget;
 class WindowStack;
 
+/// Whether the window shows the progress of a task.
+bool IsProgress(const QWidget* window);
 QJsonObject DescribeWindow(const QWidget* window);
 QJsonArray DescribeWindows(const WindowStack& windows);
 QJsonObject DescribeControl(QWidget* control);

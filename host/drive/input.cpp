@@ -79,15 +79,28 @@ void Press(QWidget* widget, QKeyCombination combination, const QString& text) {
   }
 }
 
-}  // namespace
-
-void ClickAt(QWidget* widget, const QPoint& place) {
+void ClickTimes(QWidget* widget, const QPoint& place, Qt::MouseButton button, int times) {
   const QPointer<QWindow> window = widget->window()->windowHandle();
   const QPoint inWindow = widget->mapTo(widget->window(), place);
   eventTime += kMillisecondsBetweenClicks;
   SendMouse(window, inWindow, QEvent::MouseMove, Qt::NoButton);
-  if (window != nullptr) SendMouse(window, inWindow, QEvent::MouseButtonPress, Qt::LeftButton);
-  if (window != nullptr) SendMouse(window, inWindow, QEvent::MouseButtonRelease, Qt::LeftButton);
+  for (int time = 0; time < times; ++time) {
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+      if (window != nullptr) SendMouse(window, inWindow, type, button);
+    }
+  }
+}
+
+}  // namespace
+
+void ClickAt(QWidget* widget, const QPoint& place) { ClickTimes(widget, place, Qt::LeftButton, 1); }
+
+void DoubleClickAt(QWidget* widget, const QPoint& place) {
+  ClickTimes(widget, place, Qt::LeftButton, 2);
+}
+
+void RightClickAt(QWidget* widget, const QPoint& place) {
+  ClickTimes(widget, place, Qt::RightButton, 1);
 }
 
 void PressKey(QWidget* window, QKeyCombination key) { Press(window, key, TextOf(key)); }

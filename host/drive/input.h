@@ -12,6 +12,10 @@ class QWidget;
 /// Moves the pointer to a place of the widget and presses and releases the left button there. The
 /// widget may be gone afterwards; the release is left out when its window goes at the press.
 void ClickAt(QWidget* widget, const QPoint& place);
+/// The same twice, quickly.
+void DoubleClickAt(QWidget* widget, const QPoint& place);
+/// The same with the right button.
+void RightClickAt(QWidget* widget, const QPoint& place);
 
 /// Presses and releases a key in the window: modifiers first, then the key with the text it gives.
 void PressKey(QWidget* window, QKeyCombination key);

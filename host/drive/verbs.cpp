@@ -10,6 +10,7 @@
 #include "host/drive/control_finder.h"
 #include "host/drive/describe.h"
 #include "host/drive/entry_runner.h"
+#include "host/drive/list_rows.h"
 #include "host/drive/picker_actions.h"
 #include "host/drive/request.h"
 #include "host/drive/request_error.h"
@@ -97,6 +98,22 @@ Plan Pick(Context& context, const Request& request) {
 Plan Slide(Context& context, const Request& request) {
   return OnControl(context, request,
                    [value = request.Int("value")](QWidget* control) { SlideTo(control, value); });
+}
+
+Plan Rows(Context& context, const Request& request) {
+  return Reply(DescribeRows(FindControl(context.windows, request)));
+}
+
+Plan Check(Context& context, const Request& request) {
+  return OnControl(context, request, [row = request.Int("row"), request](QWidget* control) {
+    CheckRow(control, row, request.arguments["on"].toBool());
+  });
+}
+
+Plan Row(Context& context, const Request& request) {
+  return OnControl(context, request, [request](QWidget* control) {
+    ActOnRow(control, request.Int("row"), request.Text("action"));
+  });
 }
 
 Plan Tree(Context& context, const Request&) {
@@ -228,6 +245,9 @@ constexpr Verb kVerbs[] = {
     {"type", Type},
     {"pick", Pick},
     {"slide", Slide},
+    {"rows", Rows},
+    {"check", Check},
+    {"row", Row},
     {"tree", Tree},
     {"select", Select},
     {"press", Press},

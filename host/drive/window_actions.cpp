@@ -45,7 +45,8 @@ void PressButton(const WindowStack& windows, const QString& button) {
 void Dismiss(const WindowStack& windows) {
   QWidget* top = TopWindow(windows);
   const bool dismissed = qobject_cast<QMenu*>(top) != nullptr ||
-                         qobject_cast<QMessageBox*>(top) != nullptr || IsPicker(top);
+                         qobject_cast<QMessageBox*>(top) != nullptr || IsProgress(top) ||
+                         IsPicker(top);
   if (!dismissed) {
     throw RequestError(
         QStringLiteral("The top window is %1, which is not dismissed.").arg(NameWindow(top)));

@@ -10,7 +10,7 @@ class WindowStack;
 
 /// Presses a button of the message box on top, by its text.
 void PressButton(const WindowStack& windows, const QString& button);
-/// Cancels the popup menu, message box or picker on top.
+/// Cancels the popup menu, message box, picker or progress window on top.
 void Dismiss(const WindowStack& windows);
 void ChooseFromMenu(const WindowStack& windows, int command);
 /// Presses a key in the top window, after giving the focus to `control` unless it is null.

@@ -2,6 +2,7 @@
 #include "platform/qt/combo_peer.h"
 #include "platform/qt/edit_peer.h"
 #include "platform/qt/list_box_peer.h"
+#include "platform/qt/list_peer.h"
 #include "platform/qt/slider_peer.h"
 #include "platform/qt/static_peer.h"
 #include "platform/qt/tree_peer.h"
@@ -29,7 +30,7 @@ constexpr ControlClass kClasses[] = {
     {L"Static", &Make<StaticPeer>},      {L"Button", &Make<ButtonPeer>},
     {L"Edit", &EditPeer::Make},          {L"ComboBox", &MakeCombo},
     {L"SysTreeView32", &Make<TreePeer>}, {L"msctls_trackbar32", &Make<SliderPeer>},
-    {L"ListBox", &Make<ListBoxPeer>},
+    {L"ListBox", &Make<ListBoxPeer>},    {L"SysListView32", &Make<ListPeer>},
 };
 
 const ControlClass* FindClass(const std::wstring& name) {

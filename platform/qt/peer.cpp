@@ -114,6 +114,9 @@ LRESULT Peer::DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) {
       SetFont(ToQtFont(font != nullptr ? *font : CFont()));
       return 0;
     }
+    case WM_SETREDRAW:
+      if (widget != nullptr) widget->setUpdatesEnabled(wParam != 0);
+      return 0;
     case WM_PAINT:
       defaultReached = true;
       return 0;

@@ -75,6 +75,8 @@ struct Peer {
   virtual std::wstring Text() const;
   virtual void SetText(const std::wstring& text);
   virtual void SetFont(const QFont& font);
+  /// The style has changed in these bits, of which the widget shows those of its class.
+  virtual void OnStyleChanged(DWORD) {}
   /// Whether a part of the control's own in another window, such as its dropped list, has the focus
   /// now: the control's widget losing it to that part is no loss for the control.
   virtual bool HoldsFocus() const { return false; }

@@ -92,6 +92,30 @@ std::optional<std::map<wchar_t, std::wstring>> ToDrives(const QJsonValue& json) 
   return drives;
 }
 
+std::optional<std::vector<DocumentFilter>> ToFilters(const QJsonValue& json) {
+  if (json.isUndefined()) return std::nullopt;
+  std::vector<DocumentFilter> filters;
+  for (const QJsonValue& filter : json.toArray()) {
+    filters.push_back({filter["extension"].toString().toStdWString(),
+                       filter["name"].toString().toStdWString(),
+                       filter["location"].toString().toStdWString(), L"", filter["text"].toBool()});
+  }
+  return filters;
+}
+
+// A language that is not said to be missing is available.
+std::optional<std::vector<OcrLanguage>> ToLanguages(const QJsonValue& json) {
+  if (!json.isArray()) return std::nullopt;
+  std::vector<OcrLanguage> languages;
+  for (const QJsonValue& language : json.toArray()) {
+    const std::wstring code = language["code"].toString().toStdWString();
+    const QJsonValue name = language["name"];
+    languages.push_back({code, name.isString() ? name.toString().toStdWString() : code,
+                         language["available"].toBool(true)});
+  }
+  return languages;
+}
+
 std::optional<HOLLERIN::Values> ToValues(const QJsonValue& json) {
   if (json.isUndefined()) return std::nullopt;
   HOLLERIN::Values values;
@@ -151,6 +175,9 @@ void MachineFile::Take(const QJsonObject& facts) {
   if (facts.contains("sound")) soundPlays_ = facts["sound"] == "plays";
   folders_ = ToTexts(facts["folders"]);
   drives_ = ToDrives(facts["drives"]);
+  filters_ = ToFilters(facts["ifilters"]);
+  ocrLanguages_ = ToLanguages(facts["ocrLanguages"]);
+  if (facts["ocrLanguages"].isString()) fails_.insert(L"LoadOCRLangMap");
   const QJsonObject defaults = facts["defaults"].toObject();
   defaultConfig_ = ToValues(defaults["config"]);
   defaultMaster_ = ToValues(defaults["master"]);
@@ -172,6 +199,14 @@ std::map<wchar_t, std::wstring> MachineFile::Drives() const {
 
 std::optional<std::map<std::wstring, std::wstring>> MachineFile::Folders() const {
   return folders_ ? folders_ : Machine::Folders();
+}
+
+std::optional<std::vector<DocumentFilter>> MachineFile::DocumentFilters() const {
+  return filters_ ? filters_ : Machine::DocumentFilters();
+}
+
+std::optional<std::vector<OcrLanguage>> MachineFile::OcrLanguages() const {
+  return ocrLanguages_ ? ocrLanguages_ : Machine::OcrLanguages();
 }
 
 bool MachineFile::Opens(std::wstring_view nativePath) const {

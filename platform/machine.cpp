@@ -30,6 +30,10 @@ std::optional<std::map<std::wstring, std::wstring>> Machine::Folders() const {
   return std::nullopt;
 }
 
+std::optional<std::vector<DocumentFilter>> Machine::DocumentFilters() const { return std::nullopt; }
+
+std::optional<std::vector<OcrLanguage>> Machine::OcrLanguages() const { return std::nullopt; }
+
 bool Machine::Opens(std::wstring_view) const { return false; }
 
 std::optional<bool> Machine::PlaysSound(std::wstring_view) const { return std::nullopt; }

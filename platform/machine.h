@@ -8,8 +8,25 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 constexpr const char* kPortableMark = "portable";
+
+/// A program that extracts the text of documents with a certain extension.
+struct DocumentFilter {
+  std::wstring extension;  ///< Without a dot.
+  std::wstring name;
+  std::wstring location = {};   ///< Where the program lies.
+  std::wstring arguments = {};  ///< Its arguments, with "%1" for the document.
+  bool text = false;            ///< It reads nothing but plain text.
+};
+
+/// A language that text in pictures can be recognised in.
+struct OcrLanguage {
+  std::wstring code;
+  std::wstring name;
+  bool available = true;
+};
 
 class Machine {
  public:
@@ -33,6 +50,12 @@ class Machine {
   /// The placeholders of the application folders with the folders they stand for ("%DATA%"), when
   /// the machine dictates them; empty when they are those of the user.
   virtual std::optional<std::map<std::wstring, std::wstring>> Folders() const;
+
+  /// The document filters, when the machine dictates them; empty when they are to be found.
+  virtual std::optional<std::vector<DocumentFilter>> DocumentFilters() const;
+
+  /// The recognition languages, when the machine dictates them; empty when they are to be found.
+  virtual std::optional<std::vector<OcrLanguage>> OcrLanguages() const;
 
   /// Opens a file or folder of this system in the desktop's place; false leaves it to the desktop.
   virtual bool Opens(std::wstring_view nativePath) const;

@@ -12,7 +12,7 @@
 
 namespace {
 
-enum class Kind { Integer, Text, Bool, Value, Texts };
+enum class Kind { Integer, Text, Bool, Value, Texts, Objects };
 
 struct Argument {
   const char* name;
@@ -75,6 +75,7 @@ const std::vector<Verb>& Verbs() {
         {"type", Kind::Text},
         {"value", Kind::Value}}},
       {"dump", {{"store", Kind::Text}}},
+      {"interpreters", {{"set", Kind::Objects, false}}},
       {"log", {}},
       {"clipboard", {}},
       {"outside", {}},
@@ -91,10 +92,11 @@ bool IsInteger(const QJsonValue& value) {
          number <= std::numeric_limits<int>::max();
 }
 
-bool IsListOfTexts(const QJsonValue& value) {
+bool IsListOf(bool (QJsonValue::*isKind)() const, const QJsonValue& value) {
   const QJsonArray list = value.toArray();
-  return value.isArray() && std::all_of(list.begin(), list.end(),
-                                        [](const QJsonValue& item) { return item.isString(); });
+  return value.isArray() && std::all_of(list.begin(), list.end(), [isKind](const QJsonValue& item) {
+           return (item.*isKind)();
+         });
 }
 
 bool Fits(Kind kind, const QJsonValue& value) {
@@ -108,7 +110,9 @@ bool Fits(Kind kind, const QJsonValue& value) {
     case Kind::Value:
       return value.isBool() || value.isString() || IsInteger(value);
     case Kind::Texts:
-      return IsListOfTexts(value);
+      return IsListOf(&QJsonValue::isString, value);
+    case Kind::Objects:
+      return IsListOf(&QJsonValue::isObject, value);
   }
   return false;
 }
@@ -125,6 +129,8 @@ QString KindName(Kind kind) {
       return QStringLiteral("true, false, a whole number of 32 bits or a text");
     case Kind::Texts:
       return QStringLiteral("a list of texts");
+    case Kind::Objects:
+      return QStringLiteral("a list of objects");
   }
   return {};
 }

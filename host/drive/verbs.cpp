@@ -10,6 +10,7 @@
 #include "host/drive/control_finder.h"
 #include "host/drive/describe.h"
 #include "host/drive/entry_runner.h"
+#include "host/drive/interpreter_verb.h"
 #include "host/drive/list_rows.h"
 #include "host/drive/picker_actions.h"
 #include "host/drive/request.h"
@@ -231,6 +232,10 @@ Plan Dump(Context& context, const Request& request) {
   return Reply({{"values", DumpStore(context.environment.GetStores(), request)}});
 }
 
+Plan Interpreters(Context& context, const Request& request) {
+  return Reply({{"entries", ExchangeInterpreters(context.environment.GetStores(), request)}});
+}
+
 struct Verb {
   const char* name;
   Plan (*make)(Context&, const Request&);
@@ -260,9 +265,11 @@ constexpr Verb kVerbs[] = {
     {"shot", Shot},
     {"ok", Ok},
     {"cancel", Cancel},
+    // On the stores and the program.
     {"read", Read},
     {"write", Write},
     {"dump", Dump},
+    {"interpreters", Interpreters},
     {"log", Log},
     {"clipboard", Clipboard},
     {"wait", Wait},

@@ -2,6 +2,7 @@
 
 #include "hollerin/application_state.h"
 #include "hollerin/default_configuration.h"
+#include "hollerin/export.h"
 #include "hollerin/hollerin.h"
 #include "hollerin/store.h"
 #include "platform/machine.h"
@@ -17,17 +18,6 @@ class CGlobalMgr : public INTERNAL_IFC::IGlobalMgr {
     return GetApplicationState().application.log;
   }
 };
-
-/// The frame of every exported function with a result: `make` yields it, or nothing.
-template <class Result, class Make>
-HRESULT Export(const wchar_t* name, Result* result, Make make) {
-  if (result == nullptr) return E_INVALIDARG;
-  if (GetMachine().Fails(name)) return E_FAIL;
-  std::optional<Result> made = make();
-  if (!made) return E_FAIL;
-  *result = std::move(*made);
-  return S_OK;
-}
 
 std::optional<StoreHandle> NewStore(Values values) {
   return std::make_shared<ConfigStore>(std::move(values));

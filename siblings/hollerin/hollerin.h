@@ -50,11 +50,13 @@ HRESULT CreateConfigInterpreterListMgr(
 
 using InterpreterListHandle = std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList>;
 
-/// The interpreter list that the store holds, as a new object each time; the shipped list when it
-/// holds none. E_FAIL without a store.
+/// The interpreter list that the store holds, as a new object each time. A store that holds none,
+/// or a damaged one, has the default list: the shipped interpreters and the document filters of the
+/// machine. The store stays as it is. E_FAIL without a store.
 HRESULT LoadCurrentConfigInterpreterList(const StoreHandle& store, InterpreterListHandle* list);
-/// Writes the list into the store. With `replace` false a list that the store holds already stays,
-/// and the answer is S_FALSE. E_FAIL without a store or a list.
+/// Writes the list into the store; a damaged one that is there is put aside, not overwritten. With
+/// `replace` false a list that the store holds already stays, and the answer is S_FALSE. E_FAIL
+/// without a store or a list.
 HRESULT SaveConfigInterpreterList(const StoreHandle& store, const InterpreterListHandle& list,
                                   bool replace);
 

@@ -1,27 +1,40 @@
+#include "hollerin/document_filters.h"
+#include "hollerin/export.h"
+#include "hollerin/filter_interpreters.h"
 #include "hollerin/hollerin.h"
-#include "platform/machine.h"
+#include "hollerin/interpreter_list.h"
+#include "hollerin/interpreter_store.h"
 
 namespace HOLLERIN {
 namespace {
 
-/// The section in which a store keeps the interpreters that came from document filters.
-constexpr const wchar_t* kFilterSection = L"IFilters";
+/// Where a store keeps the record of the filters that its list was last brought in line with.
+/// Whoever empties the value asks for the next time, whatever the machine has.
+constexpr const wchar_t* kRecordSection = L"Filters";
+constexpr const wchar_t* kRecordKey = L"RegFileTypes";
 
-/// No source lists document filters on this system, so the set found on the machine is empty and
-/// never changes: bringing a store in line with it takes away the filters that the store has.
 class CConfigInterpreterListMgr : public INTERNAL_IFC::IConfigInterpreterListMgr {
  public:
-  HRESULT ResyncIFilters(const std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>& store,
-                         bool) override {
+  HRESULT ResyncIFilters(const StoreHandle& store, bool force) override {
     if (store == nullptr || GetMachine().Fails(L"ResyncIFilters")) return E_FAIL;
-    store->ClearSection(kFilterSection);
+    // A list that is not stored always has the filters of the machine.
+    if (!HoldsInterpreters(*store)) return S_OK;
+    const std::vector<DocumentFilter> filters = FindDocumentFilters();
+    const std::wstring record = FilterRecord(filters);
+    const bool known = store->ReadString(kRecordSection, kRecordKey, L"") == record;
+    // A missing record and that of a machine without filters look the same.
+    if (known && !force && !record.empty()) return S_OK;
+    std::vector<InterpreterEntry> entries = ReadInterpreters(*store);
+    if (ResyncFilterInterpreters(entries, filters)) WriteInterpreters(*store, entries);
+    if (!known) store->WriteString(kRecordSection, kRecordKey, record);
     return S_OK;
   }
 
-  // Until there is a list.
-  HRESULT LoadDefaultList(const std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>&,
-                          std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList>&) override {
-    return E_NOTIMPL;
+  HRESULT LoadDefaultList(const StoreHandle& store, InterpreterListHandle& list) override {
+    list.reset();
+    if (store == nullptr || GetMachine().Fails(L"LoadDefaultList")) return E_FAIL;
+    list = MakeInterpreterList(DefaultInterpreters());
+    return S_OK;
   }
 };
 
@@ -29,10 +42,10 @@ class CConfigInterpreterListMgr : public INTERNAL_IFC::IConfigInterpreterListMgr
 
 HRESULT CreateConfigInterpreterListMgr(
     std::shared_ptr<INTERNAL_IFC::IConfigInterpreterListMgr>* manager) {
-  if (manager == nullptr) return E_INVALIDARG;
-  if (GetMachine().Fails(L"CreateConfigInterpreterListMgr")) return E_FAIL;
-  *manager = std::make_shared<CConfigInterpreterListMgr>();
-  return S_OK;
+  using Handle = std::shared_ptr<INTERNAL_IFC::IConfigInterpreterListMgr>;
+  return Export(L"CreateConfigInterpreterListMgr", manager, []() -> std::optional<Handle> {
+    return std::make_shared<CConfigInterpreterListMgr>();
+  });
 }
 
 }  // namespace HOLLERIN

@@ -128,17 +128,6 @@ TEST_F(ApplicationTest, ShipsDefaults) {
   EXPECT_EQ(dynamic_cast<Store&>(*store).GetValues(), *application_.defaultMaster);
 }
 
-TEST_F(ApplicationTest, ResyncTakesAwayFiltersThatTheMachineDoesNotHave) {
-  std::shared_ptr<INTERNAL_IFC::IConfigInterpreterListMgr> manager;
-  ASSERT_EQ(CreateConfigInterpreterListMgr(&manager), S_OK);
-  const auto store = CreateStore();
-  store->WriteString(L"IFilters", L"doc", L"a filter");
-  store->WriteInt(L"Options", L"k", 1);
-  EXPECT_EQ(manager->ResyncIFilters(store, true), S_OK);
-  EXPECT_EQ(store->GetValues(), (Values{{L"Options", {{L"k", std::int32_t{1}}}}}));
-  EXPECT_EQ(manager->ResyncIFilters(nullptr, true), E_FAIL);
-}
-
 TEST_F(ApplicationTest, EveryFunctionFailsWhenTheMachineSaysSo) {
   application_.master = CreateStore();
   SetUpApplication(application_);

@@ -11,6 +11,8 @@
 struct FakeMachine : Machine {
   std::map<wchar_t, std::wstring> Drives() const override { return drives; }
   std::optional<std::map<std::wstring, std::wstring>> Folders() const override { return folders; }
+  std::optional<std::vector<DocumentFilter>> DocumentFilters() const override { return filters; }
+  std::optional<std::vector<OcrLanguage>> OcrLanguages() const override { return languages; }
   bool Fails(std::wstring_view operation) const override { return operation == fails; }
   bool Opens(std::wstring_view path) const override {
     opened.emplace_back(path);
@@ -20,6 +22,8 @@ struct FakeMachine : Machine {
 
   std::map<wchar_t, std::wstring> drives;
   std::optional<std::map<std::wstring, std::wstring>> folders;
+  std::optional<std::vector<DocumentFilter>> filters;
+  std::optional<std::vector<OcrLanguage>> languages;
   std::wstring fails;
   bool opens = true;
   std::optional<bool> sound;

@@ -1,0 +1,26 @@
+#pragma once
+
+// The text that a store keeps as its interpreter list. Any damage is found out by a checksum.
+//
+//   INTERPRETERS1                             the form and its version
+//   I<name><key><extensions><info><type>WXYZ  an entry; W to Z are 0 or 1: enabled, option A,
+//                                             document format, option C
+//   E<16 hexadecimal>                         the end, with the checksum of all before it
+//
+// where each text is a length in decimal, ":" and that many characters.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "hollerin/interpreter_entry.h"
+
+namespace HOLLERIN {
+
+std::wstring FormatInterpreters(const std::vector<InterpreterEntry>& entries);
+
+/// The entries in their order, several with one key among them; nothing when the text is damaged:
+/// cut off, or any one character changed, missing or added.
+std::optional<std::vector<InterpreterEntry>> ParseInterpreters(std::wstring_view text);
+
+}  // namespace HOLLERIN

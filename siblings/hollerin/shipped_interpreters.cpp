@@ -1,0 +1,216 @@
+#include "hollerin/shipped_interpreters.h"
+
+namespace HOLLERIN {
+namespace {
+
+// An entry is enabled and has no option unless it says otherwise.
+constexpr unsigned kOff = 1;
+constexpr unsigned kRaw = 2;       ///< Option A: also searched as it is stored.
+constexpr unsigned kDocument = 4;  ///< Counts as a document.
+constexpr unsigned kByName = 8;    ///< Option C: nothing in the first bytes tells the format.
+
+struct Row {
+  const wchar_t* name;
+  const wchar_t* key;
+  const wchar_t* extensions;
+  const wchar_t* info;
+  const wchar_t* type;
+  unsigned flags;
+};
+
+constexpr Row kRows[] = {
+    // Files that no other entry takes.
+    {L"Plain text", L"text", L"txt,text,log,asc,nfo,diz",
+     L"Lines of text in any encoding; also taken for every file that no other entry knows.",
+     L"textinterpreter defaultinterpreter", kDocument | kByName},
+    {L"Binary data", L"binary", L"bin,dat,exe,dll,so,o,obj,sys",
+     L"Files that are no text, searched for the texts inside them.", L"defaultinterpreter",
+     kOff | kRaw},
+    // Text with a form of its own, read without converting it first.
+    {L"HTML", L"html", L"html,htm,xhtml,shtml,hta",
+     L"Web pages without their tags; also finds the text of links.", L"textinterpreter",
+     kDocument | kRaw},
+    {L"XML", L"xml", L"xml,xsl,xslt,xsd,rss,atom", L"The text and the attributes of XML files.",
+     L"textinterpreter", kDocument | kRaw},
+    {L"SVG drawing", L"svg", L"svg", L"The labels of vector drawings.", L"textinterpreter",
+     kDocument},
+    {L"Markdown", L"markdown", L"md,markdown,mdown", L"Text with light markup.", L"textinterpreter",
+     kDocument | kByName},
+    {L"reStructuredText", L"rst", L"rst,rest", L"Text with light markup.", L"textinterpreter",
+     kDocument | kByName},
+    {L"LaTeX", L"latex", L"tex,ltx,sty,cls,bib",
+     L"TeX sources and bibliographies without their commands.", L"textinterpreter",
+     kDocument | kByName | kRaw},
+    {L"Comma-separated values", L"csv", L"csv,tsv,tab", L"Tables as text, a row a line.",
+     L"textinterpreter", kDocument | kByName},
+    {L"JSON", L"json", L"json,jsonl,geojson", L"The names and values of JSON data.",
+     L"textinterpreter", kByName},
+    {L"YAML", L"yaml", L"yaml,yml", L"The names and values of YAML data.", L"textinterpreter",
+     kByName},
+    {L"Settings file", L"ini", L"ini,cfg,conf,properties,toml", L"Settings as names with values.",
+     L"textinterpreter", kByName},
+    {L"Source code", L"source", L"c,cc,cpp,h,hpp,cs,java,js,ts,py,rb,go,rs,php,pl,sh,sql",
+     L"Programs, told apart into code, comments and texts.", L"textinterpreter", kByName},
+    {L"Subtitles", L"subtitles", L"srt,vtt,ass,ssa,sub", L"Spoken text without its times.",
+     L"textinterpreter", kDocument | kByName},
+    {L"Calendar", L"icalendar", L"ics,ifb", L"Events, tasks and their notes.", L"textinterpreter",
+     kDocument},
+    {L"Address card", L"vcard", L"vcf,vcard", L"Names and addresses.", L"textinterpreter",
+     kDocument},
+    {L"Translation memory", L"xliff", L"xlf,xliff,tmx,po",
+     L"Source and target texts of translations.", L"textinterpreter", kDocument},
+    {L"Manual page", L"man", L"man,roff", L"Manual pages without their formatting requests.",
+     L"textinterpreter", kDocument | kByName},
+    {L"Jupyter notebook", L"ipynb", L"ipynb", L"The text, the code and the results of a notebook.",
+     L"textinterpreter", kDocument},
+    // Documents that are turned into text.
+    {L"PDF", L"pdf", L"pdf", L"Portable documents; pages that are pictures need text recognition.",
+     L"textconverter ocrformat", kDocument},
+    {L"DjVu", L"djvu", L"djvu,djv", L"Scanned documents with a layer of recognised text.",
+     L"textconverter ocrformat", kDocument},
+    {L"Word document", L"docx", L"docx,docm,dotx,dotm",
+     L"Text, headers, notes and comments of Office Open XML documents.", L"textconverter",
+     kDocument},
+    {L"Word 97 document", L"doc", L"doc,dot", L"Text and notes of the older binary documents.",
+     L"textconverter", kDocument},
+    {L"Excel workbook", L"xlsx", L"xlsx,xlsm,xltx,xltm",
+     L"Cells, sheet names and comments of Office Open XML workbooks.", L"textconverter", kDocument},
+    {L"Excel binary workbook", L"xlsb", L"xlsb",
+     L"Cells and sheet names of binary Open XML workbooks.", L"textconverter", kDocument},
+    {L"Excel 97 workbook", L"xls", L"xls,xlt,xla",
+     L"Cells and sheet names of the older binary workbooks.", L"textconverter", kDocument},
+    {L"PowerPoint presentation", L"pptx", L"pptx,pptm,ppsx,ppsm,potx",
+     L"Slides and notes of Office Open XML presentations.", L"textconverter", kDocument},
+    {L"PowerPoint 97 presentation", L"ppt", L"ppt,pps,pot",
+     L"Slides and notes of the older binary presentations.", L"textconverter", kDocument},
+    {L"Visio drawing", L"vsdx", L"vsdx,vsdm,vsd", L"The labels of diagrams.", L"textconverter",
+     kDocument},
+    {L"OneNote section", L"one", L"one", L"The notes of a notebook section.", L"textconverter",
+     kDocument},
+    {L"OpenDocument text", L"odt", L"odt,ott,fodt", L"Text, notes and comments.", L"textconverter",
+     kDocument},
+    {L"OpenDocument spreadsheet", L"ods", L"ods,ots,fods", L"Cells and sheet names.",
+     L"textconverter", kDocument},
+    {L"OpenDocument presentation", L"odp", L"odp,otp,fodp", L"Slides and notes.", L"textconverter",
+     kDocument},
+    {L"OpenDocument drawing", L"odg", L"odg,otg,fodg", L"The labels of drawings.", L"textconverter",
+     kDocument},
+    {L"Rich text", L"rtf", L"rtf", L"Rich text without its formatting.", L"textconverter",
+     kDocument},
+    {L"WordPerfect document", L"wpd", L"wpd,wp,wp5,wp6", L"Text and notes.", L"textconverter",
+     kDocument},
+    {L"Works document", L"wps", L"wps", L"Text of Works documents.", L"textconverter", kDocument},
+    {L"AbiWord document", L"abw", L"abw,zabw", L"Text and notes.", L"textconverter", kDocument},
+    {L"Pages document", L"pages", L"pages", L"Text of Pages documents.", L"textconverter",
+     kDocument},
+    {L"Numbers spreadsheet", L"numbers", L"numbers", L"Cells of Numbers spreadsheets.",
+     L"textconverter", kDocument},
+    {L"Keynote presentation", L"keynote", L"key", L"Slides and notes of Keynote presentations.",
+     L"textconverter", kDocument},
+    {L"EPUB book", L"epub", L"epub", L"The chapters of a book, in reading order.",
+     L"textconverter compositefile", kDocument},
+    {L"FictionBook", L"fb2", L"fb2", L"The chapters of a book.", L"textconverter", kDocument},
+    {L"Mobipocket book", L"mobi", L"mobi,prc,azw,azw3", L"Books without copy protection.",
+     L"textconverter", kDocument},
+    {L"PostScript", L"postscript", L"ps,eps", L"Pages that are drawn with text.", L"textconverter",
+     kDocument},
+    {L"XPS document", L"xps", L"xps,oxps", L"Pages that are drawn with text.", L"textconverter",
+     kDocument},
+    {L"DVI document", L"dvi", L"dvi", L"Pages that TeX has set.", L"textconverter", kDocument},
+    {L"Compiled HTML help", L"chm", L"chm", L"The topics of a help file.",
+     L"textconverter compositefile", kDocument},
+    {L"Web archive", L"mhtml", L"mht,mhtml", L"A web page that was saved with its pictures.",
+     L"textconverter", kDocument},
+    {L"Database table", L"dbf", L"dbf", L"The records of a dBASE table.", L"textconverter", kOff},
+    {L"SQLite database", L"sqlite", L"sqlite,sqlite3,db3", L"The rows of all tables.",
+     L"textconverter", kOff},
+    {L"Sound tags", L"audio", L"mp3,ogg,oga,flac,m4a,wma,opus",
+     L"Title, artist, album and lyrics of a recording.", L"textconverter", 0},
+    {L"Film tags", L"video", L"mp4,m4v,mkv,avi,mov,wmv,webm",
+     L"Title, chapters and embedded subtitles of a film.", L"textconverter", kOff},
+    {L"Torrent", L"torrent", L"torrent", L"Names of the files and the comment.", L"textconverter",
+     kOff},
+    // Archives and other files that hold files.
+    {L"ZIP archive", L"zip", L"zip,zipx", L"Files in a ZIP archive.", L"compositefile", 0},
+    {L"Java archive", L"jar", L"jar,war,ear,apk", L"Programs that are packed as ZIP archives.",
+     L"compositefile", kOff},
+    {L"7z archive", L"7z", L"7z", L"Files in a 7z archive.", L"compositefile", 0},
+    {L"RAR archive", L"rar", L"rar", L"Files in a RAR archive, version 5 included.",
+     L"compositefile", 0},
+    {L"TAR archive", L"tar", L"tar", L"Files in a tape archive.", L"compositefile", 0},
+    {L"GZIP file", L"gzip", L"gz,tgz,taz", L"One compressed file, or a compressed tape archive.",
+     L"compositefile", 0},
+    {L"BZIP2 file", L"bzip2", L"bz2,tbz,tbz2",
+     L"One compressed file, or a compressed tape archive.", L"compositefile", 0},
+    {L"XZ file", L"xz", L"xz,txz,lzma,tlz", L"One compressed file, or a compressed tape archive.",
+     L"compositefile", 0},
+    {L"Zstandard file", L"zstd", L"zst,tzst", L"One compressed file, or a compressed tape archive.",
+     L"compositefile", 0},
+    {L"LZ4 file", L"lz4", L"lz4", L"One compressed file.", L"compositefile", 0},
+    {L"Compress file", L"compress", L"z", L"One compressed file.", L"compositefile", 0},
+    {L"Cabinet", L"cab", L"cab", L"Files in a Windows cabinet.", L"compositefile", 0},
+    {L"ARJ archive", L"arj", L"arj", L"Files in an ARJ archive.", L"compositefile", 0},
+    {L"LHA archive", L"lha", L"lzh,lha", L"Files in an LHA archive.", L"compositefile", 0},
+    {L"CPIO archive", L"cpio", L"cpio", L"Files in a CPIO archive.", L"compositefile", 0},
+    {L"Debian package", L"deb", L"deb,udeb", L"Files of a software package.", L"compositefile",
+     kOff},
+    {L"RPM package", L"rpm", L"rpm", L"Files of a software package.", L"compositefile", kOff},
+    {L"Windows installer", L"msi", L"msi,msp", L"Files and tables of an installation package.",
+     L"compositefile", kOff},
+    {L"Disc image", L"iso", L"iso,udf", L"Files on an image of a disc.", L"compositefile", kOff},
+    {L"Windows image", L"wim", L"wim,swm,esd", L"Files on an image of an installation.",
+     L"compositefile", kOff},
+    {L"Comic book", L"comic", L"cbz,cbr,cb7,cbt",
+     L"The pictures of a comic book, for text recognition.", L"compositefile", kDocument},
+    // Pictures whose text can be recognised.
+    {L"PNG picture", L"png", L"png,apng", L"Text in a picture.", L"ocrformat", 0},
+    {L"JPEG picture", L"jpeg", L"jpg,jpeg,jpe,jfif", L"Text in a photograph or a scan.",
+     L"ocrformat", 0},
+    {L"TIFF picture", L"tiff", L"tif,tiff", L"Text on all pages of a scan or a fax.", L"ocrformat",
+     0},
+    {L"Bitmap", L"bmp", L"bmp,dib", L"Text in a picture.", L"ocrformat", 0},
+    {L"GIF picture", L"gif", L"gif", L"Text in the first frame.", L"ocrformat", 0},
+    {L"WebP picture", L"webp", L"webp", L"Text in a picture.", L"ocrformat", 0},
+    {L"JPEG 2000 picture", L"jpeg2000", L"jp2,j2k,jpf,jpx", L"Text in a scan.", L"ocrformat", 0},
+    {L"HEIF photograph", L"heif", L"heic,heif,avif", L"Text in a photograph.", L"ocrformat", 0},
+    {L"Portable pixmap", L"pnm", L"pnm,pbm,pgm,ppm", L"Text in a picture.", L"ocrformat", 0},
+    {L"PCX picture", L"pcx", L"pcx,dcx", L"Text in a picture or a fax.", L"ocrformat", 0},
+    {L"Targa picture", L"tga", L"tga", L"Text in a picture.", L"ocrformat", kByName},
+    // Messages, and files that hold many of them.
+    {L"E-mail message", L"eml", L"eml,emlx", L"One message with its attachments.",
+     L"emailrepository", kDocument},
+    {L"Outlook message", L"msg", L"msg,oft", L"One message with its attachments.",
+     L"emailrepository", kDocument},
+    {L"Mailbox", L"mbox", L"mbox,mbx", L"All messages of a mailbox, one after another.",
+     L"emailrepository", 0},
+    {L"Outlook folders", L"pst", L"pst,ost", L"All messages of all folders.",
+     L"emailrepository compositefile", 0},
+    {L"Outlook Express folder", L"dbx", L"dbx", L"All messages of a folder.", L"emailrepository",
+     0},
+    {L"TNEF attachment", L"tnef", L"tnef", L"The message inside a \"winmail.dat\".",
+     L"emailrepository", 0},
+    {L"News article", L"nws", L"nws,news", L"One article of a newsgroup.", L"emailrepository", 0},
+    // What has no page of its own.
+    {L"Other formats of this system", L"system-filters", L"",
+     L"Formats that no other entry takes, read by the document filters of this system.", L"ifilter",
+     kDocument},
+    {L"Format detection", L"detection", L"",
+     L"Tells the format of a file by its first bytes as well as by its extension.", L"config", 0},
+    {L"Nested files", L"nesting", L"",
+     L"Opens files inside of files, such as attachments and archives in archives.", L"config", 0},
+};
+
+}  // namespace
+
+std::vector<InterpreterEntry> ShippedInterpreters() {
+  std::vector<InterpreterEntry> entries;
+  entries.reserve(std::size(kRows));
+  for (const Row& row : kRows) {
+    entries.push_back({row.name, row.key, row.extensions, row.info, row.type,
+                       (row.flags & kOff) == 0, (row.flags & kRaw) != 0,
+                       (row.flags & kDocument) != 0, (row.flags & kByName) != 0});
+  }
+  return entries;
+}
+
+}  // namespace HOLLERIN

@@ -11,6 +11,7 @@
 
 #include "hollerin/application.h"
 #include "hollerin/hollerin.h"
+#include "hollerin/interpreter_list.h"
 #include "ifc/brisquel.h"
 #include "platform/application.h"
 #include "ratios.h"
@@ -51,7 +52,7 @@ struct WidgetCopy {
 
 const char* PlainKind(const QWidget& widget) {
   for (const char* kind : {"QTreeView", "QComboBox", "QLineEdit", "QSlider", "QCheckBox",
-                           "QRadioButton", "QPushButton", "QLabel"}) {
+                           "QRadioButton", "QPushButton", "QLabel", "QPlainTextEdit"}) {
     if (widget.inherits(kind)) return kind;
   }
   return nullptr;
@@ -78,6 +79,8 @@ std::vector<WidgetCopy> CopyControls(const QWidget& dialog) {
                     widget->isVisibleTo(&dialog)};
     if (const auto* combo = qobject_cast<const QComboBox*>(widget)) {
       for (int row = 0; row < combo->count(); ++row) copy.rows << combo->itemText(row);
+    } else if (const auto* lines = qobject_cast<const QPlainTextEdit*>(widget)) {
+      copy.text = lines->toPlainText();
     } else if (const auto* tree = qobject_cast<const QTreeView*>(widget)) {
       if (tree->model() != nullptr) CollectRows(*tree->model(), {}, copy.rows);
     }
@@ -92,6 +95,7 @@ QWidget* BuildControl(const WidgetCopy& copy, QWidget* parent) {
   if (copy.kind == "QRadioButton") return new QRadioButton(copy.text, parent);
   if (copy.kind == "QPushButton") return new QPushButton(copy.text, parent);
   if (copy.kind == "QLineEdit") return new QLineEdit(copy.text, parent);
+  if (copy.kind == "QPlainTextEdit") return new QPlainTextEdit(copy.text, parent);
   if (copy.kind == "QSlider") return new QSlider(Qt::Horizontal, parent);
   if (copy.kind == "QComboBox") {
     auto* combo = new QComboBox(parent);
@@ -130,6 +134,18 @@ class Subject {
     table_ = reinterpret_cast<Getter>(dlsym(library, "BrisquelEntryPoints"))();
     for (auto& store : stores_) HOLLERIN::CreateBlankConfigDataMgr(&store);
     HOLLERIN::LoadMainDefaultConfiguration(&stores_[0]);
+  }
+
+  /// Puts a list with that many interpreters into the configuration; each has a row of the tree.
+  void StoreInterpreters(int count) {
+    std::vector<HOLLERIN::InterpreterEntry> entries;
+    for (int number = 0; number < count; ++number) {
+      const std::wstring text = std::to_wstring(number);
+      entries.push_back(
+          {L"Format " + text, text, L"x" + text, L"A format", L"textconverter", true});
+    }
+    const auto list = HOLLERIN::MakeInterpreterList(std::move(entries));
+    HOLLERIN::SaveConfigInterpreterList(stores_[0], list, true);
   }
 
   void Open(int page, const std::function<void(QWidget*)>& work) const {
@@ -290,17 +306,25 @@ int main(int argc, char** argv) {
   const Plan plan = MakePlan(subject, 27);
   const Plan group = MakePlan(subject, 4);
   const std::vector<Plan> pages = PagePlans(subject);
+  Subject crowded;
+  crowded.StoreInterpreters(10000);
+  const Plan crowdedPlan = MakePlan(crowded, 27);
 
   benchmark::RegisterBenchmark("OpenMainDialog", OpenMainDialog, std::cref(subject), 27)
       ->UseManualTime();
   benchmark::RegisterBenchmark("OpenPlainDialog", OpenPlainDialog, std::cref(plan))
+      ->UseManualTime();
+  benchmark::RegisterBenchmark("OpenWith10000Formats", OpenMainDialog, std::cref(crowded), 27)
+      ->UseManualTime();
+  benchmark::RegisterBenchmark("OpenPlainWith10000Rows", OpenPlainDialog, std::cref(crowdedPlan))
       ->UseManualTime();
   benchmark::RegisterBenchmark("ShowEveryPage", ShowEveryPage, std::cref(subject))->UseManualTime();
   benchmark::RegisterBenchmark("ShowEveryPlainPage", ShowEveryPlainPage, std::cref(group),
                                std::cref(pages))
       ->UseManualTime();
   std::printf("%zu pages besides the first one\n", pages.size());
-  return RunAndPrintRatios(
-      argc, argv,
-      {{"OpenMainDialog", "OpenPlainDialog", 1.25}, {"ShowEveryPage", "ShowEveryPlainPage", 1.25}});
+  return RunAndPrintRatios(argc, argv,
+                           {{"OpenMainDialog", "OpenPlainDialog", 1.25},
+                            {"OpenWith10000Formats", "OpenPlainWith10000Rows", 1.25},
+                            {"ShowEveryPage", "ShowEveryPlainPage", 1.25}});
 }

@@ -13,7 +13,8 @@ std::int32_t CopyChildren(const EntryList& from, EntryList& to) {
   return static_cast<std::int32_t>(to.size());
 }
 
-/// Every group has a row; a missing one is a mistake in the table.
+}  // namespace
+
 const GroupRow& RowOf(PageGroup group) {
   const std::span<const GroupRow> rows = PageTreeGroups();
   const auto row = std::ranges::find(rows, group, &GroupRow::group);
@@ -21,7 +22,13 @@ const GroupRow& RowOf(PageGroup group) {
   return *row;
 }
 
-}  // namespace
+EntryList MakeEntries(PageGroup group) {
+  EntryList entries;
+  for (const PageRow& page : PageTreePages()) {
+    if (page.group == group) entries.push_back(page.makeEntry(page));
+  }
+  return entries;
+}
 
 HRESULT ApplyEntries(const EntryList& entries) noexcept {
   return RunGuarded(
@@ -45,9 +52,7 @@ CConfigTableMgr::CConfigTableMgr(PageGroup group) : CConfigTableMgr(RowOf(group)
 
 CConfigTableMgr::CConfigTableMgr(const GroupRow& row)
     : CConfigMgrBase(LanguageString(row.title), row.pageId, row.image), row_(row) {
-  for (const PageRow& page : PageTreePages()) {
-    if (page.group == row.group) AddChild(page.makeEntry(page));
-  }
+  SetChildren(MakeEntries(row.group));
 }
 
 std::shared_ptr<CDialog> CConfigTableMgr::CreateGroupDialog(

@@ -14,6 +14,12 @@ using EntryList = std::vector<EntryHandle>;
 /// shown; its status is returned.
 HRESULT ApplyEntries(const EntryList& entries) noexcept;
 
+/// The row of a group. Every group has one; raises CCP_Exception where the table forgot it.
+const GroupRow& RowOf(PageGroup group);
+
+/// Entries for the pages of a group, in the order of the table.
+EntryList MakeEntries(PageGroup group);
+
 /// A group: an entry of the tree that owns its children.
 class CConfigMgrBase : public INTERNAL_IFC::IConfigParent, public INTERNAL_IFC::IConfigEntry {
  public:
@@ -36,6 +42,8 @@ class CConfigMgrBase : public INTERNAL_IFC::IConfigParent, public INTERNAL_IFC::
 
  protected:
   void AddChild(EntryHandle child) { children_.push_back(std::move(child)); }
+  void SetChildren(EntryList children) { children_ = std::move(children); }
+  bool HasChildren() const { return !children_.empty(); }
 
  private:
   std::shared_ptr<CDialog> page_;

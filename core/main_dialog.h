@@ -13,9 +13,6 @@
 /// The page that is shown when the caller names none: the General group.
 constexpr std::int32_t kDefaultPageId = 4;
 
-/// What a publisher says when the children of its item have changed.
-constexpr std::uint32_t kChildrenChanged = 0x808C;
-
 /// Run as Geometry::CGeometryWnd<CConfigurationMain>. DoModal ends with IDOK when every page has
 /// written its values into `config`; after anything else `config` may hold some of them. Restoring
 /// the defaults replaces `config` and `master` and empties `fourth` at once.

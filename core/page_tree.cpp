@@ -9,12 +9,16 @@
 #include "pages/formats/dos_page.h"
 #include "pages/formats/editor_group_page.h"
 #include "pages/formats/expression_group_page.h"
+#include "pages/formats/extension_group_page.h"
+#include "pages/formats/extension_mgr.h"
 #include "pages/formats/external_editor_page.h"
 #include "pages/formats/file_list_page.h"
+#include "pages/formats/filters_page.h"
 #include "pages/formats/hash_page.h"
 #include "pages/formats/junctions_page.h"
 #include "pages/formats/regex_page.h"
 #include "pages/formats/transform_page.h"
+#include "pages/formats/utf8_page.h"
 #include "pages/general/alerts_page.h"
 #include "pages/general/character_page.h"
 #include "pages/general/colour_page.h"
@@ -47,8 +51,12 @@ std::shared_ptr<CConfigDialog> MakeGroupPage() {
 }
 
 template <class Manager>
-EntryHandle MakeManager(const StoreHandle&) {
-  return std::make_shared<Manager>();
+EntryHandle MakeManager(const StoreHandle& config) {
+  if constexpr (std::is_constructible_v<Manager, const StoreHandle&>) {
+    return std::make_shared<Manager>(config);
+  } else {
+    return std::make_shared<Manager>();
+  }
 }
 
 template <class Page>
@@ -84,6 +92,8 @@ constexpr GroupRow kGroups[] = {
                                                    L"Unable to create editor dlg"),
     Group<CConfigAdvMgr, CConfigEntryAdvDlg>(kAdvanced, TextId::kGroupAdvanced, 13, 3,
                                              L"Unable to create advanced dlg"),
+    {kExtensions, TextId::kGroupExtensions, 1, 4, CConfigEntryExtensionMainDlg::IDD,
+     L"Unable to create extension dlg", nullptr, &MakeManager<CConfigExtensionMgr>},
 };
 
 constexpr PageRow kPages[] = {
@@ -113,6 +123,9 @@ constexpr PageRow kPages[] = {
     Leaf<CConfigEntryMemMgrDlg>(kAdvanced, TextId::kPageMemory, 28),
     LaidOut<CConfigEntryGeneralThreadDlg>(kAdvanced, TextId::kPageThreads, 9),
     Leaf<CConfigEntryAdvTransformDlg>(kAdvanced, TextId::kPageTransform, 14),
+
+    LaidOut<CConfigEntryGeneralFiltersDlg>(kExtensions, TextId::kPageFilters, 15),
+    LaidOut<CConfigEntryFileTypeUTF8Dlg>(kExtensions, TextId::kPageUtf8, 18),
 };
 
 /// A page id chooses one node, and a template belongs to one page.

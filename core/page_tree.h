@@ -9,7 +9,7 @@
 #include "core/config_dialog.h"
 #include "ifc/config_entry.h"
 
-enum class PageGroup { kGeneral, kExpressions, kEditor, kAdvanced };
+enum class PageGroup { kGeneral, kExpressions, kEditor, kAdvanced, kExtensions };
 
 /// A leaf of the tree.
 struct PageRow {
@@ -28,6 +28,7 @@ struct GroupRow {
   std::int32_t image = 0;  ///< Index in the tree's image strip.
   UINT templateId = 0;
   const wchar_t* creationFailure = L"";  ///< Told when the group's page cannot be made.
+  /// Null for a group whose manager makes the page itself.
   std::shared_ptr<CConfigDialog> (*makePage)() = nullptr;
   std::shared_ptr<INTERNAL_IFC::IConfigEntry> (*makeManager)(const StoreHandle& config) = nullptr;
 };

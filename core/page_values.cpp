@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "core/extension_list.h"
 #include "platform/bcg.h"
+#include "platform/controls.h"
 
 namespace page_values {
 
@@ -48,6 +50,13 @@ void ExchangeColour(CDataExchange* exchange, const Control& control, int& number
   number = static_cast<int>(colour);
 }
 
+void ExchangeText(CDataExchange* exchange, const Control& control, CString& stored) {
+  if (control.kind == Kind::kEdit) return DDX_Text(exchange, control.id, stored);
+  CString lines = ExtensionLines(stored.Str());
+  DDX_Text(exchange, control.id, lines);
+  stored = ExtensionList(lines.Str());
+}
+
 void ExchangeNumber(CDataExchange* exchange, const Row& row, int& stored) {
   const Control& control = row.control;
   int shown = ToControl(row, stored);
@@ -66,6 +75,7 @@ void ExchangeNumber(CDataExchange* exchange, const Row& row, int& stored) {
       ExchangeLabel(exchange, control, shown);
       break;
     case Kind::kRow:
+    case Kind::kIndex:
       DDX_CBIndex(exchange, control.id, shown);
       break;
     case Kind::kBits:
@@ -133,8 +143,8 @@ void Values::Exchange(CDataExchange* exchange) {
     const Row& row = table_.rows[index];
     if (!row.stored.read && !exchange->m_bSaveAndValidate) continue;
     Value& value = values_[index];
-    if (row.control.kind == Kind::kEdit) {
-      DDX_Text(exchange, row.control.id, value.text);
+    if (row.stored.readAs == Type::kText) {
+      ExchangeText(exchange, row.control, value.text);
     } else {
       ExchangeNumber(exchange, row, value.number);
     }

@@ -70,8 +70,10 @@ enum class Kind : std::uint8_t {
   kNumber,
   kSlider,
   kEdit,
+  kExtensions,
   kLabels,
   kRow,
+  kIndex,
   kBits,
   kColour
 };
@@ -116,6 +118,8 @@ constexpr Control Slider(int id, Range range) {
 }
 /// An edit whose text is the value, as it stands.
 constexpr Control Edit(int id) { return {Kind::kEdit, id}; }
+/// An edit of several lines for a list of file extensions (extension_list.h), one on each line.
+constexpr Control Extensions(int id) { return {Kind::kExtensions, id}; }
 /// A combo box that shows the label of an id. The page fills it; an id without a label shows no
 /// selection, and a text that is no label is written as -1.
 constexpr Control Labels(int id, std::span<const LabelRow> labels) {
@@ -131,6 +135,11 @@ constexpr Control SomeLabels(int id, std::span<const LabelRow> labels,
 /// 0. The page fills it with `rows` rows.
 constexpr Control ChosenRow(int id, int rows) {
   return {.kind = Kind::kRow, .id = id, .buttons = rows};
+}
+/// A combo box that shows the labels in their order and whose selected row is the value. A value
+/// without a row selects none, and no selection is written as -1.
+constexpr Control Index(int id, std::span<const LabelRow> labels) {
+  return {.kind = Kind::kIndex, .id = id, .labels = labels};
 }
 /// One check box for each bit of an integer, lowest bit first. Other bits are not carried over.
 constexpr Control Bits(std::span<const int> boxes) {
@@ -195,6 +204,7 @@ consteval bool Fits(const Row& row, int index) {
     case Kind::kRadio:
       return !isText && control.buttons >= 2 && (!isBool || control.buttons == 2);
     case Kind::kEdit:
+    case Kind::kExtensions:
       return isText;
     case Kind::kNumber:
     case Kind::kSlider:
@@ -204,6 +214,8 @@ consteval bool Fits(const Row& row, int index) {
       return !isText && !isBool && !control.labels.empty() && OffersKnownIds(control);
     case Kind::kRow:
       return !isText && !isBool && control.buttons >= 1;
+    case Kind::kIndex:
+      return !isText && !isBool && !control.labels.empty();
     case Kind::kBits:
       return !isText && !isBool && control.boxes.size() <= 31;
   }

@@ -6,6 +6,9 @@
 #include "ifc/observer.h"
 #include "platform/controls.h"
 
+/// What a publisher says when the children of its item have changed.
+constexpr std::uint32_t kChildrenChanged = 0x808C;
+
 /// Names the tree item that a publishing entry belongs to.
 class CTreeViewParms : public INTERNAL_IFC::IObserverParms {
  public:

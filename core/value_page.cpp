@@ -7,10 +7,12 @@
 
 namespace {
 
-using page_values::Kind;
+bool ShowsLabels(const page_values::Row& row) { return !row.control.labels.empty(); }
+bool ShowsColour(const page_values::Row& row) {
+  return row.control.kind == page_values::Kind::kColour;
+}
 
-std::size_t Count(const PageDescription& description, Kind kind) {
-  const auto isOfKind = [kind](const page_values::Row& row) { return row.control.kind == kind; };
+std::size_t Count(const PageDescription& description, bool (*isOfKind)(const page_values::Row&)) {
   return static_cast<std::size_t>(std::ranges::count_if(description.values.rows, isOfKind));
 }
 
@@ -43,8 +45,8 @@ CValuePage::CValuePage(UINT templateId, const PageDescription& description)
     : CConfigDialog(templateId),
       description_(description),
       headings_(description.headings.size()),
-      labelCombos_(Count(description, Kind::kLabels)),
-      colourButtons_(Count(description, Kind::kColour)) {}
+      labelCombos_(Count(description, ShowsLabels)),
+      colourButtons_(Count(description, ShowsColour)) {}
 
 BOOL CValuePage::OnInitDialog() {
   CConfigDialog::OnInitDialog();
@@ -107,8 +109,8 @@ void CValuePage::BindValueControls(CDataExchange* exchange) {
   auto button = colourButtons_.begin();
   for (const page_values::Row& row : description_.values.rows) {
     const page_values::Control& control = row.control;
-    if (control.kind == Kind::kColour) DDX_Control(exchange, control.id, *button++);
-    if (control.kind != Kind::kLabels) continue;
+    if (ShowsColour(row)) DDX_Control(exchange, control.id, *button++);
+    if (!ShowsLabels(row)) continue;
     // Filled before the first load, which selects by text.
     const bool first = combo->m_hWnd == nullptr;
     DDX_Control(exchange, control.id, *combo);

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSet>
 #include <deque>
 
 #include "host/drive/session.h"
@@ -39,7 +40,8 @@ class Script {
 
   void Add(const QJsonObject& request) { requests_.push_back(request); }
   void AddShot(const QString& name) { Add(Shot(name)); }
-  /// Every node of the page tree, in order, with a picture of each.
+  /// The nodes of the page tree, in order, with a picture of each. Of those that share a page
+  /// number, which look alike, the first one stands for all.
   void AddPages() { Add({{"do", "tree"}}); }
 
   /// False when a request was refused; the reason has gone to standard error.
@@ -87,11 +89,14 @@ class Script {
 
   void InsertPages(const QJsonArray& nodes) {
     std::deque<QJsonObject> pages;
+    QSet<int> seen;
     for (const QJsonValue& node : nodes) {
+      const int page = node["page"].toInt();
+      if (seen.contains(page)) continue;
+      seen.insert(page);
       pages.push_back({{"do", "select"}, {"row", node["row"]}});
-      pages.push_back(Shot(QStringLiteral("main-%1-%2")
-                               .arg(node["page"].toInt())
-                               .arg(FileNamePart(node["title"].toString()))));
+      pages.push_back(
+          Shot(QStringLiteral("main-%1-%2").arg(page).arg(FileNamePart(node["title"].toString()))));
     }
     requests_.insert(requests_.begin(), pages.begin(), pages.end());
   }

@@ -203,12 +203,12 @@ void DDX_CBStringExact(CDataExchange* exchange, int id, CString& value) {
   combo->SetCurSel(row < count ? row : -1);
 }
 
-void DDX_CBIndex(CDataExchange* exchange, int id, int& row) {
+void DDX_CBIndex(CDataExchange* exchange, int id, int& value) {
   ControlView<CComboBox> combo(exchange->PrepareCtrl(id)->m_hWnd);
   if (exchange->m_bSaveAndValidate) {
-    row = combo->GetCurSel();
-  } else {
-    combo->SetCurSel(row);
+    value = combo->GetCurSel();
+  } else if (combo->SetCurSel(value) == CB_ERR) {
+    combo->SetCurSel(-1);
   }
 }
 

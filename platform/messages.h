@@ -111,6 +111,7 @@ constexpr DWORD SS_BLACKFRAME = 7;
 constexpr DWORD SS_ETCHEDHORZ = 0x10;
 constexpr DWORD SS_BITMAP = 0x0E;
 constexpr DWORD SS_TYPEMASK = 0x1F;
+constexpr DWORD SS_NOPREFIX = 0x0080;
 constexpr DWORD SS_NOTIFY = 0x0100;
 constexpr DWORD SS_CENTERIMAGE = 0x0200;
 

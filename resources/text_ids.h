@@ -25,6 +25,7 @@ constexpr unsigned kPageBoolean = 70;
 constexpr unsigned kPageDos = 71;
 constexpr unsigned kPageRegex = 72;
 constexpr unsigned kPageHash = 73;
+constexpr unsigned kPageUtf8 = 74;
 constexpr unsigned kPageHistory = 77;
 constexpr unsigned kPageDisplay = 78;
 constexpr unsigned kPageCharacters = 79;
@@ -32,6 +33,7 @@ constexpr unsigned kPageShell = 80;
 constexpr unsigned kPageAlerts = 81;
 constexpr unsigned kPageUserInterface = 82;
 constexpr unsigned kPageSearch = 162;
+constexpr unsigned kPageFilters = 398;
 constexpr unsigned kPageLocalization = 440;
 constexpr unsigned kPageMemory = 489;
 constexpr unsigned kPageEmail = 647;
@@ -48,6 +50,7 @@ constexpr unsigned kRestoringDefaults = 85;
 // Messages.
 constexpr unsigned kTransformNotCreated = 54;
 constexpr unsigned kEditorBrowsingFailed = 56;
+constexpr unsigned kAskResetInterpreters = 57;
 constexpr unsigned kFoundSoundMissing = 59;
 constexpr unsigned kEndSoundMissing = 60;
 constexpr unsigned kSoundNotPlayed = 61;
@@ -79,6 +82,7 @@ constexpr unsigned kTabText = 376;
 constexpr unsigned kTabSummary = 29;
 constexpr unsigned kTabProperties = 389;
 constexpr unsigned kTabPreview = 478;
+
 // What is cut off from texts that do not fit.
 constexpr unsigned kCutEnd = 602;
 constexpr unsigned kCutStart = 603;
@@ -92,6 +96,15 @@ constexpr unsigned kLow = 17;
 constexpr unsigned kSpeedMaximum = 846;
 constexpr unsigned kSpeedMedium = 847;
 constexpr unsigned kSpeedCustom = 848;
+
+// Document filters: the columns of their list, the title of the dialog shown meanwhile, and what
+// goes first.
+constexpr unsigned kColumnExtension = 65;
+constexpr unsigned kColumnFilter = 66;
+constexpr unsigned kColumnFilterLocation = 67;
+constexpr unsigned kLookingForFilters = 154;
+constexpr unsigned kConvertersFirst = 528;
+constexpr unsigned kFiltersFirst = 529;
 
 // Names of histories; that of file names is the name of their column. The names of three are put
 // together of two texts each.

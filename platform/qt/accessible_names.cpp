@@ -17,6 +17,8 @@ bool NamesOthers(const Peer& control) {
 /// The text without the marks of keys and without the colon that leads to the control.
 QString SpokenText(const Peer& control) {
   const QString text = ToQt(control.Text());
+  const bool plain = control.kind == ControlKind::Label && (control.style & SS_NOPREFIX) != 0;
+  if (plain) return text.simplified();
   QString spoken;
   for (qsizetype i = 0; i < text.size(); ++i) {
     // A doubled mark stands for the character itself.

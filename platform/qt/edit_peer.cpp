@@ -68,7 +68,13 @@ class TextEditWidget final : public QPlainTextEdit {
   void keyPressEvent(QKeyEvent* event) override {
     const bool adds = !event->text().isEmpty() && event->text().at(0) >= QLatin1Char(' ');
     if (adds && Room() == 0) return event->accept();
-    QPlainTextEdit::keyPressEvent(event);
+    if (!event->matches(QKeySequence::InsertLineSeparator)) {
+      return QPlainTextEdit::keyPressEvent(event);
+    }
+    // Every Enter ends a line; with Shift the toolkit would insert a separator that ends none.
+    QKeyEvent enter(event->type(), Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QPlainTextEdit::keyPressEvent(&enter);
+    event->setAccepted(enter.isAccepted());
   }
   void insertFromMimeData(const QMimeData* source) override {
     insertPlainText(source->text().left(Room()));

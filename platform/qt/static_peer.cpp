@@ -102,6 +102,7 @@ class LabelWidget final : public QLabel {
 }  // namespace
 
 StaticPeer::StaticPeer(DWORD controlStyle, const std::wstring& initialText, QWidget* host) {
+  style = controlStyle;
   widget = new LabelWidget(controlStyle, host);
   kind = KindOf(controlStyle);
   StaticPeer::SetText(initialText);
@@ -110,7 +111,9 @@ StaticPeer::StaticPeer(DWORD controlStyle, const std::wstring& initialText, QWid
 void StaticPeer::SetText(const std::wstring& newText) {
   text = newText;
   if (kind == ControlKind::Picture) return;
-  Label().setText(ToQt(newText));
+  QString shown = ToQt(newText);
+  if ((style & SS_NOPREFIX) != 0) shown.replace(QLatin1Char('&'), QStringLiteral("&&"));
+  Label().setText(shown);
 }
 
 void StaticPeer::SetPicture(const QPixmap& picture) {

@@ -54,9 +54,9 @@ using InterpreterListHandle = std::shared_ptr<INTERNAL_IFC::IConfigInterpreterLi
 /// or a damaged one, has the default list: the shipped interpreters and the document filters of the
 /// machine. The store stays as it is. E_FAIL without a store.
 HRESULT LoadCurrentConfigInterpreterList(const StoreHandle& store, InterpreterListHandle* list);
-/// Writes the list into the store; a damaged one that is there is put aside, not overwritten. With
-/// `replace` false a list that the store holds already stays, and the answer is S_FALSE. E_FAIL
-/// without a store or a list.
+/// Writes the list into the store; a damaged one that is there is put aside, not overwritten. A
+/// store that gives this list already stays as it is. With `replace` false a list that the store
+/// holds already stays, and the answer is S_FALSE. E_FAIL without a store or a list.
 HRESULT SaveConfigInterpreterList(const StoreHandle& store, const InterpreterListHandle& list,
                                   bool replace);
 

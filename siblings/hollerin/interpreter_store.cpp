@@ -68,7 +68,8 @@ bool HoldsInterpreters(IConfigDataMgr& store) { return !StoredText(store).empty(
 void WriteInterpreters(IConfigDataMgr& store, const std::vector<InterpreterEntry>& entries) {
   const std::wstring text = FormatInterpreters(entries);
   const std::wstring before = StoredText(store);
-  if (!before.empty() && before != text && !ParseInterpreters(before)) PutAside(store, before);
+  if (before == text || (before.empty() && entries == DefaultInterpreters())) return;
+  if (!before.empty() && !ParseInterpreters(before)) PutAside(store, before);
   store.WriteString(kSection, kList, text);
 }
 

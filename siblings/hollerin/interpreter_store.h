@@ -20,6 +20,8 @@ bool HoldsInterpreters(INTERNAL_IFC::IConfigDataMgr& store);
 
 /// Makes the entries the list of the store. A damaged list is not overwritten but kept as the text
 /// "Damaged1" of the section, or "Damaged2" and so on when that one is taken; the log names it.
+/// Nothing is written when the store gives these entries already, so that one without a list goes
+/// on following what is shipped and what the machine has.
 void WriteInterpreters(INTERNAL_IFC::IConfigDataMgr& store,
                        const std::vector<InterpreterEntry>& entries);
 

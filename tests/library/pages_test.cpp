@@ -8,10 +8,12 @@
 #include "pages/formats/dos_page.h"
 #include "pages/formats/external_editor_page.h"
 #include "pages/formats/file_list_page.h"
+#include "pages/formats/filters_page.h"
 #include "pages/formats/hash_page.h"
 #include "pages/formats/junctions_page.h"
 #include "pages/formats/regex_page.h"
 #include "pages/formats/transform_page.h"
+#include "pages/formats/utf8_page.h"
 #include "pages/general/alerts_page.h"
 #include "pages/general/colour_page.h"
 #include "pages/general/email_page.h"
@@ -45,6 +47,8 @@ using HistoryPage = CConfigEntryGeneralHistoryDlg;
 using FoldersPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralFoldersDlg>;
 using AlertsPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralAlertsDlg>;
 using ExternalEditorPage = Geometry::CGeometryDynCreateWnd<CConfigEntryEditorExternalDlg>;
+using FiltersPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralFiltersDlg>;
+using Utf8Page = Geometry::CGeometryDynCreateWnd<CConfigEntryFileTypeUTF8Dlg>;
 using EmailPage = Geometry::CGeometryDynCreateWnd<CConfigEntryGeneralEmailDlg>;
 using ColourPage = Geometry::CGeometryDynCreateWnd<CConfigEntryColorDlg>;
 
@@ -217,6 +221,16 @@ const PageFacts kFacts[] = {
      {L"text CustomTransform/MSXMLProgId "},
      {L"text CustomTransform/MSXMLProgId "},
      {}},
+    {"filters",
+     Make<FiltersPage>,
+     {L"bool Filters/IncludeTextFilters false", L"int Options/IFilterPriority 0"},
+     {L"bool Filters/IncludeTextFilters true", L"int Options/IFilterPriority 1"},
+     {{L"Filters", {{L"IncludeTextFilters", true}}}, {L"Options", {{L"IFilterPriority", 1}}}}},
+    {"UTF-8",
+     Make<Utf8Page>,
+     {L"text FileType/UTF8 ", L"bool FileType/AutoDetectUTF8 false"},
+     {L"text FileType/UTF8 txt,*.md", L"bool FileType/AutoDetectUTF8 true"},
+     {{L"FileType", {{L"UTF8", L".txt , ,*.md,"}, {L"AutoDetectUTF8", true}}}}},
 };
 
 class PageFactsTest : public PageTest {

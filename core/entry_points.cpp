@@ -32,6 +32,6 @@ Status ShowMessage(HWND) {
 const BRISQUEL::EntryPoints* BrisquelEntryPoints() {
   static constexpr BRISQUEL::EntryPoints kEntryPoints = {
       &BRISQUEL::OpenConfigDialog, &BRISQUEL::ShowMessage, &BRISQUEL::OpenClearHistoryDialog,
-      &BRISQUEL::OpenEditHistoryDialog};
+      &BRISQUEL::OpenEditHistoryDialog, &BRISQUEL::OpenCacheSettings};
   return &kEntryPoints;
 }

@@ -66,7 +66,8 @@ int ToControl(const Row& row, int stored) {
   if (control.inverted) return stored == 0 ? 1 : 0;
   if (control.flag) return stored > 0 ? 1 : 0;
   if (control.kind == Kind::kRadio && (stored < 0 || stored >= control.buttons)) return 0;
-  return stored;
+  if (control.usual != 0 && stored <= 0) return control.usual;
+  return stored / control.unit;
 }
 
 int ToStored(const Row& row, int shown) {
@@ -75,7 +76,7 @@ int ToStored(const Row& row, int shown) {
   if (control.inverted) return control.kind == Kind::kRadio ? shown == 0 : shown != BST_CHECKED;
   if (control.kind == Kind::kRadio && isBool) return shown != 0 ? 1 : 0;
   if (isBool || control.flag) return shown == BST_CHECKED ? 1 : 0;
-  return shown;
+  return shown * control.unit;
 }
 
 Values::Values(const TableView& table, INTERNAL_IFC::IConfigDataMgr& store)

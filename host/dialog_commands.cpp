@@ -45,3 +45,7 @@ int RunClearHistory(Environment& environment) {
 int RunEditHistory(Environment& environment) {
   return ShowOrPicture(environment, QStringLiteral("OpenEditHistoryDialog"));
 }
+
+int RunCache(Environment& environment) {
+  return ShowOrPicture(environment, QStringLiteral("OpenCacheSettings"));
+}

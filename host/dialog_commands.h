@@ -8,3 +8,4 @@ int RunConfig(Environment& environment);
 int RunMessage(Environment& environment);
 int RunClearHistory(Environment& environment);
 int RunEditHistory(Environment& environment);
+int RunCache(Environment& environment);

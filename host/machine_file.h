@@ -36,6 +36,7 @@ class MachineFile : public Machine {
   bool Fails(std::wstring_view operation) const override;
   std::map<wchar_t, std::wstring> Drives() const override;
   std::optional<std::map<std::wstring, std::wstring>> Folders() const override;
+  std::optional<CacheContents> Cache() const override;
   bool Opens(std::wstring_view nativePath) const override;
   std::optional<bool> PlaysSound(std::wstring_view path) const override;
   bool UsesToolkitPickers() const override;
@@ -61,6 +62,7 @@ class MachineFile : public Machine {
   std::optional<bool> soundPlays_;
   std::optional<std::map<std::wstring, std::wstring>> folders_;
   std::optional<std::map<wchar_t, std::wstring>> drives_;
+  std::optional<CacheContents> cache_;
   std::optional<ThrowRule> throws_;
   std::optional<HOLLERIN::Values> defaultConfig_;
   std::optional<HOLLERIN::Values> defaultMaster_;

@@ -30,6 +30,7 @@ constexpr Command kCommands[] = {
     {"message", RunMessage, Display::Person},
     {"clear-history", RunClearHistory, Display::Person},
     {"edit-history", RunEditHistory, Display::Person},
+    {"cache", RunCache, Display::Person},
     {"get", RunGet, Display::None},
     {"set", RunSet, Display::None},
     {"list", RunList, Display::None},

@@ -113,7 +113,8 @@ struct Standalone {
 /// The dialogs beside the main one.
 constexpr Standalone kStandalones[] = {{"ShowMessage", "message"},
                                        {"OpenClearHistoryDialog", "clear-history"},
-                                       {"OpenEditHistoryDialog", "edit-history"}};
+                                       {"OpenEditHistoryDialog", "edit-history"},
+                                       {"OpenCacheSettings", "cache"}};
 
 void AddDialog(Script& script, const Standalone& dialog) {
   script.Add({{"do", "open"}, {"entry", dialog.entry}});

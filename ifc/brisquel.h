@@ -44,6 +44,11 @@ BRISQUEL_API Status OpenClearHistoryDialog(HWND parent, CClearHistorySettings* s
 BRISQUEL_API Status OpenEditHistoryDialog(HWND parent, const StoreHandle& history,
                                           const StoreHandle& config);
 
+/// Lets the user look after the text cache and set its folder, size limit and expiry. After status
+/// 0 `store` holds the limits, and the global master configuration the folder, saved; after 1
+/// `store` is as it was. What the user compacted or deleted stays so.
+BRISQUEL_API Status OpenCacheSettings(const StoreHandle& store);
+
 /// The exported functions for a caller that loads the library at run time.
 struct EntryPoints {
   Status (*OpenConfigDialog)(HWND, const StoreHandle&, const StoreHandle&, const StoreHandle&,
@@ -51,6 +56,7 @@ struct EntryPoints {
   Status (*ShowMessage)(HWND);
   Status (*OpenClearHistoryDialog)(HWND, CClearHistorySettings*, const StoreHandle&);
   Status (*OpenEditHistoryDialog)(HWND, const StoreHandle&, const StoreHandle&);
+  Status (*OpenCacheSettings)(const StoreHandle&);
 };
 
 }  // namespace BRISQUEL

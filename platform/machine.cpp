@@ -30,6 +30,8 @@ std::optional<std::map<std::wstring, std::wstring>> Machine::Folders() const {
   return std::nullopt;
 }
 
+std::optional<CacheContents> Machine::Cache() const { return std::nullopt; }
+
 bool Machine::Opens(std::wstring_view) const { return false; }
 
 std::optional<bool> Machine::PlaysSound(std::wstring_view) const { return std::nullopt; }

@@ -3,6 +3,7 @@
 // The facts of the machine, behind one interface so that a program or a test can replace them.
 // The base class answers for the real machine.
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
@@ -10,6 +11,12 @@
 #include <string_view>
 
 constexpr const char* kPortableMark = "portable";
+
+/// What the text cache holds.
+struct CacheContents {
+  std::uint64_t items = 0;
+  std::int64_t bytes = 0;
+};
 
 class Machine {
  public:
@@ -33,6 +40,10 @@ class Machine {
   /// The placeholders of the application folders with the folders they stand for ("%DATA%"), when
   /// the machine dictates them; empty when they are those of the user.
   virtual std::optional<std::map<std::wstring, std::wstring>> Folders() const;
+
+  /// The figures of the text cache, when the machine dictates them; empty when they are those of
+  /// its database.
+  virtual std::optional<CacheContents> Cache() const;
 
   /// Opens a file or folder of this system in the desktop's place; false leaves it to the desktop.
   virtual bool Opens(std::wstring_view nativePath) const;

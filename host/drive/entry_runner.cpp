@@ -31,6 +31,8 @@ constexpr Entry kEntries[] = {
        return library.OpenEditHistoryDialog(nullptr, stores.Handle(kHistory),
                                             stores.Handle(kConfig));
      }},
+    {"OpenCacheSettings", [](const BRISQUEL::EntryPoints& library, const Stores& stores,
+                             int) { return library.OpenCacheSettings(stores.Handle(kConfig)); }},
 };
 
 }  // namespace

@@ -12,7 +12,7 @@
 
 namespace {
 
-enum class Kind { Integer, Text, Bool, Value, Texts };
+enum class Kind { Integer, Text, Bool, Value, Texts, List };
 
 struct Argument {
   const char* name;
@@ -72,6 +72,7 @@ const std::vector<Verb>& Verbs() {
         {"type", Kind::Text},
         {"value", Kind::Value}}},
       {"dump", {{"store", Kind::Text}}},
+      {"filters", {{"set", Kind::List, false}}},
       {"log", {}},
       {"clipboard", {}},
       {"outside", {}},
@@ -106,6 +107,8 @@ bool Fits(Kind kind, const QJsonValue& value) {
       return value.isBool() || value.isString() || IsInteger(value);
     case Kind::Texts:
       return IsListOfTexts(value);
+    case Kind::List:
+      return value.isArray();
   }
   return false;
 }
@@ -122,6 +125,8 @@ QString KindName(Kind kind) {
       return QStringLiteral("true, false, a whole number of 32 bits or a text");
     case Kind::Texts:
       return QStringLiteral("a list of texts");
+    case Kind::List:
+      return QStringLiteral("a list");
   }
   return {};
 }

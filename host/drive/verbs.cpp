@@ -10,6 +10,7 @@
 #include "host/drive/control_finder.h"
 #include "host/drive/describe.h"
 #include "host/drive/entry_runner.h"
+#include "host/drive/filter_verb.h"
 #include "host/drive/picker_actions.h"
 #include "host/drive/request.h"
 #include "host/drive/request_error.h"
@@ -214,6 +215,12 @@ Plan Dump(Context& context, const Request& request) {
   return Reply({{"values", DumpStore(context.environment.GetStores(), request)}});
 }
 
+Plan Filters(Context& context, const Request& request) {
+  HOLLERIN::Store& store = context.environment.GetStores().Get(kConfig);
+  if (request.Has("set")) WriteFilters(store, request.arguments["set"]);
+  return Reply({{"entries", ReadFilters(store)}});
+}
+
 struct Verb {
   const char* name;
   Plan (*make)(Context&, const Request&);
@@ -243,6 +250,7 @@ constexpr Verb kVerbs[] = {
     {"read", Read},
     {"write", Write},
     {"dump", Dump},
+    {"filters", Filters},
     {"log", Log},
     {"clipboard", Clipboard},
     {"wait", Wait},

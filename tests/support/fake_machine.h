@@ -11,6 +11,7 @@
 struct FakeMachine : Machine {
   std::map<wchar_t, std::wstring> Drives() const override { return drives; }
   std::optional<std::map<std::wstring, std::wstring>> Folders() const override { return folders; }
+  std::optional<CacheContents> Cache() const override { return cache; }
   bool Fails(std::wstring_view operation) const override { return operation == fails; }
   bool Opens(std::wstring_view path) const override {
     opened.emplace_back(path);
@@ -20,6 +21,7 @@ struct FakeMachine : Machine {
 
   std::map<wchar_t, std::wstring> drives;
   std::optional<std::map<std::wstring, std::wstring>> folders;
+  std::optional<CacheContents> cache;
   std::wstring fails;
   bool opens = true;
   std::optional<bool> sound;

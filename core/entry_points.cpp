@@ -62,7 +62,8 @@ Status ShowMessage(HWND) {
 
 const BRISQUEL::EntryPoints* BrisquelEntryPoints() {
   static constexpr BRISQUEL::EntryPoints kEntryPoints = {
-      &BRISQUEL::OpenConfigDialog, &BRISQUEL::ShowMessage, &BRISQUEL::OpenClearHistoryDialog,
-      &BRISQUEL::OpenEditHistoryDialog, &BRISQUEL::OpenLanguageDialog};
+      &BRISQUEL::OpenConfigDialog,       &BRISQUEL::ShowMessage,
+      &BRISQUEL::OpenClearHistoryDialog, &BRISQUEL::OpenEditHistoryDialog,
+      &BRISQUEL::OpenLanguageDialog,     &BRISQUEL::OpenCacheSettings};
   return &kEntryPoints;
 }

@@ -99,7 +99,8 @@ int ToControl(const Row& row, int stored) {
   if (control.flag) return stored > 0 ? 1 : 0;
   const bool counted = control.kind == Kind::kRadio || control.kind == Kind::kRow;
   if (counted && (stored < 0 || stored >= control.buttons)) return 0;
-  return stored;
+  if (control.usual != 0 && stored <= 0) return control.usual;
+  return stored / control.unit;
 }
 
 int ToStored(const Row& row, int shown) {
@@ -109,7 +110,7 @@ int ToStored(const Row& row, int shown) {
   if (control.kind == Kind::kRadio && isBool) return shown != 0 ? 1 : 0;
   if (isBool || control.flag) return shown == BST_CHECKED ? 1 : 0;
   if (control.kind == Kind::kRow && (shown < 0 || shown >= control.buttons)) return 0;
-  return shown;
+  return shown * control.unit;
 }
 
 Values::Values(const TableView& table, INTERNAL_IFC::IConfigDataMgr& store)

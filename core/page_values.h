@@ -90,6 +90,8 @@ struct Control {
   std::span<const LabelRow> labels{};
   std::span<const std::int32_t> offered{};  ///< Ids that can be chosen, in order; empty for all.
   std::span<const int> boxes{};
+  int unit = 1;   ///< The edit of a number shows multiples of this, rounded towards 0 ...
+  int usual = 0;  ///< ... and, unless it is 0, this where the stored number is not above 0.
 };
 
 /// A check box. A boolean is true exactly when the box is checked; an integer is the box's state.
@@ -112,6 +114,13 @@ constexpr Control InvertedRadio(int first) {
 /// An edit with a decimal integer.
 constexpr Control Number(int id, Range range) {
   return {.kind = Kind::kNumber, .id = id, .ranged = true, .range = range};
+}
+/// An edit with the kilobytes of a number of bytes; `usual` kilobytes stand for no stored number.
+constexpr Control Kilobytes(int id, Range range, int usual) {
+  Control control = Number(id, range);
+  control.unit = 1024;
+  control.usual = usual;
+  return control;
 }
 constexpr Control Slider(int id, Range range) {
   return {.kind = Kind::kSlider, .id = id, .ranged = true, .range = range};
@@ -198,6 +207,10 @@ consteval bool Fits(const Row& row, int index) {
   if (control.inverted && !isBool) return false;
   if (control.flag && isBool) return false;
   if (control.ranged && control.range.minimum > control.range.maximum) return false;
+  constexpr int kGreatest = 0x7FFFFFFF;
+  if (control.unit < 1 || (control.unit > 1 && control.range.maximum > kGreatest / control.unit)) {
+    return false;
+  }
   switch (control.kind) {
     case Kind::kCheck:
       return !isText;

@@ -58,3 +58,7 @@ int RunLanguage(Environment& environment) {
   }
   return status;
 }
+
+int RunCache(Environment& environment) {
+  return ShowOrPicture(environment, QStringLiteral("OpenCacheSettings"));
+}

@@ -10,3 +10,4 @@ int RunClearHistory(Environment& environment);
 int RunEditHistory(Environment& environment);
 /// Says when another language takes effect.
 int RunLanguage(Environment& environment);
+int RunCache(Environment& environment);

@@ -44,7 +44,7 @@ Check Bool() { return Expect(&QJsonValue::isBool, QStringLiteral("true or false"
 Check Text() { return Expect(&QJsonValue::isString, QStringLiteral("a text")); }
 Check Null() { return Expect(&QJsonValue::isNull, QStringLiteral("null")); }
 
-Check Integer(int least, int greatest) {
+Check Integer(qint64 least, qint64 greatest) {
   return [least, greatest](const QJsonValue& value) -> QString {
     const double number = value.toDouble(0.5);
     if (value.isDouble() && number == static_cast<double>(static_cast<qint64>(number)) &&

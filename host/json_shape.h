@@ -17,7 +17,7 @@ Check Bool();
 Check Text();
 Check Null();
 /// A whole number from `least` to `greatest`.
-Check Integer(int least, int greatest);
+Check Integer(qint64 least, qint64 greatest);
 Check OneOf(const QStringList& texts);
 Check Either(Check first, Check second);
 Check ListOf(Check element);

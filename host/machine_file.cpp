@@ -15,6 +15,8 @@
 namespace {
 
 constexpr int kMost = std::numeric_limits<int>::max();
+/// The greatest number up to which JSON has every whole number.
+constexpr qint64 kMostExact = qint64{1} << 53;
 constexpr int kLeast = std::numeric_limits<int>::min();
 
 // An object with letters as its keys.
@@ -60,8 +62,9 @@ const Shape::Check& MachineShape() {
       {"folders", MapOf(Text())},
       {"drives", Drives()},
       {"defaults", ObjectOf({{"config", values}, {"master", values}})},
-      {"cache", Either(WholeObjectOf({{"items", Integer(0, kMost)}, {"bytes", Integer(0, kMost)}}),
-                       OneOf({"fails"}))},
+      {"cache",
+       Either(WholeObjectOf({{"items", Integer(0, kMostExact)}, {"bytes", Integer(0, kMostExact)}}),
+              OneOf({"fails"}))},
       {"fails", ListOf(Text())},
       {"throws", WholeObjectOf({{"store", OneOf(stores)}, {"call", Integer(1, kMost)}})},
   });
@@ -149,6 +152,12 @@ std::optional<std::vector<OcrLanguage>> ToLanguages(const QJsonValue& json) {
   return languages;
 }
 
+std::optional<CacheContents> ToCache(const QJsonValue& json) {
+  if (!json.isObject()) return std::nullopt;
+  return CacheContents{static_cast<std::uint64_t>(json["items"].toInteger()),
+                       json["bytes"].toInteger()};
+}
+
 std::optional<HOLLERIN::Values> ToValues(const QJsonValue& json) {
   if (json.isUndefined()) return std::nullopt;
   HOLLERIN::Values values;
@@ -207,6 +216,8 @@ void MachineFile::Take(const QJsonObject& facts) {
   for (const QJsonValue& name : facts["fails"].toArray()) {
     fails_.insert(name.toString().toStdWString());
   }
+  if (facts["cache"] == "fails") fails_.insert(L"CreateCacheMgr");
+  cache_ = ToCache(facts["cache"]);
   if (const QJsonObject rule = facts["throws"].toObject(); !rule.isEmpty()) {
     throws_ = ThrowRule{rule["store"].toString().toStdString(), rule["call"].toInt()};
   }
@@ -278,6 +289,10 @@ std::optional<std::vector<DocumentFilter>> MachineFile::DocumentFilters() const 
 
 std::optional<std::vector<OcrLanguage>> MachineFile::OcrLanguages() const {
   return ocrLanguages_ ? ocrLanguages_ : Machine::OcrLanguages();
+}
+
+std::optional<CacheContents> MachineFile::Cache() const {
+  return cache_ ? cache_ : Machine::Cache();
 }
 
 bool MachineFile::Opens(std::wstring_view nativePath) const {

@@ -43,6 +43,7 @@ class MachineFile : public Machine {
   std::optional<std::vector<std::wstring>> Components() const override;
   std::optional<std::vector<DocumentFilter>> DocumentFilters() const override;
   std::optional<std::vector<OcrLanguage>> OcrLanguages() const override;
+  std::optional<CacheContents> Cache() const override;
   bool Opens(std::wstring_view nativePath) const override;
   std::optional<bool> PlaysSound(std::wstring_view path) const override;
   bool UsesToolkitPickers() const override;
@@ -76,6 +77,7 @@ class MachineFile : public Machine {
   std::optional<std::vector<std::wstring>> components_;
   std::optional<std::vector<DocumentFilter>> filters_;
   std::optional<std::vector<OcrLanguage>> ocrLanguages_;
+  std::optional<CacheContents> cache_;
   std::optional<ThrowRule> throws_;
   std::optional<HOLLERIN::Values> defaultConfig_;
   std::optional<HOLLERIN::Values> defaultMaster_;

@@ -31,6 +31,7 @@ constexpr Command kCommands[] = {
     {"clear-history", RunClearHistory, Display::Person},
     {"edit-history", RunEditHistory, Display::Person},
     {"language", RunLanguage, Display::Person},
+    {"cache", RunCache, Display::Person},
     {"get", RunGet, Display::None},
     {"set", RunSet, Display::None},
     {"list", RunList, Display::None},

@@ -119,7 +119,8 @@ struct Standalone {
 constexpr Standalone kStandalones[] = {{"ShowMessage", "message"},
                                        {"OpenClearHistoryDialog", "clear-history"},
                                        {"OpenEditHistoryDialog", "edit-history"},
-                                       {"OpenLanguageDialog", "language"}};
+                                       {"OpenLanguageDialog", "language"},
+                                       {"OpenCacheSettings", "cache"}};
 
 void AddDialog(Script& script, const Standalone& dialog) {
   script.Add({{"do", "open"}, {"entry", dialog.entry}});

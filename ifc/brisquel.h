@@ -48,6 +48,11 @@ BRISQUEL_API Status OpenEditHistoryDialog(HWND parent, const StoreHandle& histor
 /// chosen, for the next start of the application; after 1 it is as it was.
 BRISQUEL_API Status OpenLanguageDialog(const StoreHandle& config);
 
+/// Lets the user look after the text cache and set its folder, size limit and expiry. After status
+/// 0 `store` holds the limits, and the global master configuration the folder, saved; after 1
+/// `store` is as it was. What the user compacted or deleted stays so.
+BRISQUEL_API Status OpenCacheSettings(const StoreHandle& store);
+
 /// The exported functions for a caller that loads the library at run time.
 struct EntryPoints {
   Status (*OpenConfigDialog)(HWND, const StoreHandle&, const StoreHandle&, const StoreHandle&,
@@ -56,6 +61,7 @@ struct EntryPoints {
   Status (*OpenClearHistoryDialog)(HWND, CClearHistorySettings*, const StoreHandle&);
   Status (*OpenEditHistoryDialog)(HWND, const StoreHandle&, const StoreHandle&);
   Status (*OpenLanguageDialog)(const StoreHandle&);
+  Status (*OpenCacheSettings)(const StoreHandle&);
 };
 
 }  // namespace BRISQUEL

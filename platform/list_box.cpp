@@ -7,6 +7,16 @@ int CListBox::AddString(const CString& text) {
   return peer != nullptr ? peer->Add(ToQt(text.Str())) : LB_ERR;
 }
 
+int CListBox::InsertString(int row, const CString& text) {
+  auto* peer = FindPeerAs<ListBoxPeer>(m_hWnd);
+  return peer != nullptr ? peer->Insert(row, ToQt(text.Str())) : LB_ERR;
+}
+
+int CListBox::DeleteString(UINT row) {
+  auto* peer = FindPeerAs<ListBoxPeer>(m_hWnd);
+  return peer != nullptr ? peer->Remove(static_cast<int>(row)) : LB_ERR;
+}
+
 int CListBox::GetCount() const {
   const auto* peer = FindPeerAs<ListBoxPeer>(m_hWnd);
   return peer != nullptr ? peer->Count() : LB_ERR;

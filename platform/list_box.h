@@ -13,6 +13,11 @@ class CListBox : public CWnd {
  public:
   /// Appends a row; its number.
   int AddString(const CString& text);
+  /// Inserts a row before row `row`, or behind the last with -1; its number. LB_ERR when there is
+  /// no such place. The row that is selected stays so.
+  int InsertString(int row, const CString& text);
+  /// The number of rows left, or LB_ERR when there is no such row. A deleted selection leaves none.
+  int DeleteString(UINT row);
   int GetCount() const;
   int GetCurSel() const;
   /// Selects a row and scrolls it into view; -1 selects none. LB_ERR when there is no such row.

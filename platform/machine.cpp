@@ -62,6 +62,8 @@ std::optional<std::vector<DocumentFilter>> Machine::DocumentFilters() const { re
 
 std::optional<std::vector<OcrLanguage>> Machine::OcrLanguages() const { return std::nullopt; }
 
+std::optional<CacheContents> Machine::Cache() const { return std::nullopt; }
+
 bool Machine::Opens(std::wstring_view) const { return false; }
 
 std::optional<bool> Machine::PlaysSound(std::wstring_view) const { return std::nullopt; }

@@ -3,6 +3,7 @@
 // The facts of the machine, behind one interface so that a program or a test can replace them.
 // The base class answers for the real machine.
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
@@ -64,6 +65,10 @@ class Machine {
 
   /// The recognition languages, when the machine dictates them; empty when they are to be found.
   virtual std::optional<std::vector<OcrLanguage>> OcrLanguages() const;
+
+  /// The figures of the text cache, when the machine dictates them; empty when they are those of
+  /// its database.
+  virtual std::optional<CacheContents> Cache() const;
 
   /// Opens a file or folder of this system in the desktop's place; false leaves it to the desktop.
   virtual bool Opens(std::wstring_view nativePath) const;

@@ -2,6 +2,7 @@
 
 // What is told about a machine: the records that machine.h answers with.
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -46,4 +47,10 @@ struct OcrLanguage {
   std::wstring code;
   std::wstring name;
   bool available = true;
+};
+
+/// What the text cache holds.
+struct CacheContents {
+  std::uint64_t items = 0;
+  std::int64_t bytes = 0;
 };

@@ -58,6 +58,7 @@ constexpr unsigned kSoundNotFound = 62;
 constexpr unsigned kBrowsingFailed = 64;
 constexpr unsigned kAskRestoreDefaults = 84;
 constexpr unsigned kTranslationFailed = 394;
+constexpr unsigned kAskNewCacheFolder = 476;
 constexpr unsigned kProblemRunningTask = 539;
 constexpr unsigned kErrorOccurred = 540;
 constexpr unsigned kAdditionalInformation = 541;
@@ -120,7 +121,12 @@ constexpr unsigned kHistoryZip = 1065;
 constexpr unsigned kHistorySessions = 1066;
 constexpr unsigned kHistoryWorkspaces = 1067;
 
+// Names of the units of sizes.
+constexpr unsigned kTerabytes = 296;
+constexpr unsigned kBytes = 415;
+constexpr unsigned kKilobytes = 416;
 constexpr unsigned kMegabytes = 417;
+constexpr unsigned kGigabytes = 418;
 
 /// File types of the dialogs that pick an editor and a sound: pairs of a text and patterns, as
 /// CFileDialog wants them.
@@ -153,5 +159,8 @@ constexpr DialogText kHistoryEditText = {5562, 2};
 constexpr DialogText kInstanceAnother = {5536, 9};
 constexpr DialogText kInstanceForShell = {5536, 10};
 constexpr DialogText kInstanceSingle = {5536, 11};
+
+/// What names the edit of the days in the dialog of the text cache.
+constexpr DialogText kCacheDaysName = {5552, 18};
 
 }  // namespace TextId

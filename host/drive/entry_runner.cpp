@@ -33,6 +33,8 @@ constexpr Entry kEntries[] = {
      }},
     {"OpenLanguageDialog", [](const BRISQUEL::EntryPoints& library, const Stores& stores,
                               int) { return library.OpenLanguageDialog(stores.Handle(kConfig)); }},
+    {"OpenCacheSettings", [](const BRISQUEL::EntryPoints& library, const Stores& stores,
+                             int) { return library.OpenCacheSettings(stores.Handle(kConfig)); }},
 };
 
 }  // namespace

@@ -78,6 +78,7 @@ const std::vector<Verb>& Verbs() {
       {"dump", {{"store", Kind::Text}}},
       {"interpreters", {{"set", Kind::Objects, false}}},
       {"terms", {{"set", Kind::Integers, false}}},
+      {"filters", {{"set", Kind::Objects, false}}},
       {"log", {}},
       {"clipboard", {}},
       {"outside", {}},

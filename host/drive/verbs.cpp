@@ -10,6 +10,7 @@
 #include "host/drive/control_finder.h"
 #include "host/drive/describe.h"
 #include "host/drive/entry_runner.h"
+#include "host/drive/filter_verb.h"
 #include "host/drive/interpreter_verb.h"
 #include "host/drive/list_rows.h"
 #include "host/drive/picker_actions.h"
@@ -247,6 +248,12 @@ Plan Interpreters(Context& context, const Request& request) {
   return Reply({{"entries", ExchangeInterpreters(context.environment.GetStores(), request)}});
 }
 
+Plan Filters(Context& context, const Request& request) {
+  HOLLERIN::Store& store = context.environment.GetStores().Get(kConfig);
+  if (request.Has("set")) WriteFilters(store, request.arguments["set"]);
+  return Reply({{"entries", ReadFilters(store)}});
+}
+
 struct Verb {
   const char* name;
   Plan (*make)(Context&, const Request&);
@@ -283,6 +290,7 @@ constexpr Verb kVerbs[] = {
     {"dump", Dump},
     {"terms", Terms},
     {"interpreters", Interpreters},
+    {"filters", Filters},
     {"log", Log},
     {"clipboard", Clipboard},
     {"wait", Wait},

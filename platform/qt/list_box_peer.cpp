@@ -85,6 +85,23 @@ int ListBoxPeer::Add(const QString& rowText) {
   return List().count() - 1;
 }
 
+int ListBoxPeer::Insert(int row, const QString& rowText) {
+  if (row < -1 || row > Count()) return -1;
+  const int place = row == -1 ? Count() : row;
+  const QScopedValueRollback<bool> selecting(selecting_, true);
+  List().insertItem(place, rowText);
+  return place;
+}
+
+int ListBoxPeer::Remove(int row) {
+  if (row < 0 || row >= Count()) return -1;
+  const QScopedValueRollback<bool> selecting(selecting_, true);
+  // The toolkit would select a neighbour.
+  if (Selection() == row) List().setCurrentRow(-1);
+  delete List().takeItem(row);
+  return Count();
+}
+
 int ListBoxPeer::Select(int row) {
   const QScopedValueRollback<bool> selecting(selecting_, true);
   List().setCurrentRow(row >= 0 && row < Count() ? row : -1);

@@ -15,6 +15,10 @@ class ListBoxPeer final : public Peer {
 
   /// Appends a row; its number.
   int Add(const QString& rowText);
+  /// Inserts a row before that one, or at the end with -1; its number, or -1.
+  int Insert(int row, const QString& rowText);
+  /// The number of rows left; -1 when there is no such row.
+  int Remove(int row);
   int Count() const { return List().count(); }
   int Selection() const { return List().currentRow(); }
   /// Selects a row without telling the parent; the row selected then.

@@ -13,6 +13,7 @@
 #include "ifc/interpreter_list_mgr.h"
 #include "ifc/language_mgr.h"
 #include "ifc/ocr_lang_map.h"
+#include "ifc/search_filter_list.h"
 #include "platform/types.h"
 
 namespace HOLLERIN {
@@ -68,5 +69,17 @@ HRESULT CreateFilterMgr(std::shared_ptr<INTERNAL_IFC::IFilterMgr>* manager,
 /// The languages that the recognition engine knows, with those that it can use at the moment of the
 /// call.
 HRESULT LoadOCRLangMap(std::shared_ptr<INTERNAL_IFC::IOCRLangMap>* map);
+
+/// The persistent search filters that the store keeps (search_filter_text.h); none without a store.
+/// S_FALSE when the stored text was damaged: the list is empty, the text lies under the key
+/// "List.damaged-<n>" of its section, and the log says so. What the store raises passes through.
+HRESULT LoadSearchFilterList(const StoreHandle& store,
+                             std::shared_ptr<INTERNAL_IFC::ISearchFilterList>* list);
+/// Writes the filters into the store; S_FALSE without one. A damaged text that stands there is put
+/// aside as by LoadSearchFilterList.
+HRESULT SaveSearchFilterList(const StoreHandle& store,
+                             const std::shared_ptr<INTERNAL_IFC::ISearchFilterList>& list);
+/// A filter of file names, on, without a name and a pattern.
+HRESULT CreateBlankSearchFilter(std::shared_ptr<INTERNAL_IFC::ISearchFilter>* filter);
 
 }  // namespace HOLLERIN

@@ -1,15 +1,17 @@
 #include "panterow/panterow.h"
 
+#include "panterow/module_state.h"
 #include "platform/embedded_resources.h"
 
 namespace PANTEROW {
-namespace {
 
 const AFX_MODULE_STATE& ModuleState() {
   static const CModule module(L"panterow", EmbeddedResources());
   static const AFX_MODULE_STATE state(&module);
   return state;
 }
+
+namespace {
 
 class CSharedFonts : public CFontMgr {
  public:

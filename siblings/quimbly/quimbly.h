@@ -7,7 +7,10 @@
 
 #include "ifc/config_data_mgr.h"
 #include "ifc/external_editor_mgr.h"
+#include "ifc/file_cache_mgr.h"
 #include "ifc/load_combo_reg.h"
+#include "ifc/location_list.h"
+#include "ifc/running_status.h"
 
 namespace TOLLIVER {
 
@@ -31,4 +34,23 @@ HRESULT CreateLoadComboReg(const std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>& 
 HRESULT CreateExternalEditorMgr(const std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>& store,
                                 std::shared_ptr<INTERNAL_IFC::IExternalEditorMgr>* manager);
 
+/// An empty list of folders. `withoutSubfolders` says what a folder means whose text carries no
+/// mark (location_text.h describes the text): that the folders below it are left out.
+HRESULT CreateLocationList(std::shared_ptr<INTERNAL_IFC::ILocationList>* list,
+                           bool withoutSubfolders);
+
 }  // namespace TOLLIVER
+
+namespace STOVEN {
+
+/// The manager of the text cache in the folder that the global master configuration names
+/// ("CacheFolder" in "FOLDERS", an empty text standing for "%CACHE%/quarrow"), as it is now: a
+/// folder chosen later is another cache. Where the folder cannot be made out the manager has no
+/// figures of a database and refuses to change one. `status` may be null; it is asked during long
+/// work and must outlive the manager. A store is not needed: its size limit and its expiry policy
+/// are for those who fill the cache.
+HRESULT CreateCacheMgr(const std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>& store,
+                       INTERNAL_IFC::IRunningStatus* status,
+                       std::shared_ptr<INTERNAL_IFC::IFileCacheMgr>* manager);
+
+}  // namespace STOVEN

@@ -16,6 +16,7 @@
 namespace {
 
 std::shared_ptr<HOLLERIN::MemoryLog> memoryLog;
+HOLLERIN::Application application;
 
 class LibraryEnvironment : public testing::Environment {
  public:
@@ -25,7 +26,6 @@ class LibraryEnvironment : public testing::Environment {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << BRISQUEL_RES;
     resources_ = file.readAll();
     memoryLog = HOLLERIN::CreateMemoryLog(nullptr);
-    HOLLERIN::Application application;
     application.langFolder = QStringLiteral(SOURCE_FOLDER "/lang/").toStdWString();
     application.log = memoryLog;
     EXPECT_EQ(HOLLERIN::SetUpApplication(application), L"");
@@ -92,6 +92,11 @@ class Answerer : public QObject {
 }  // namespace
 
 std::vector<std::wstring> TakeLog() { return memoryLog->TakeLines(); }
+
+void SetGlobalMaster(std::shared_ptr<INTERNAL_IFC::IConfigDataMgr> master) {
+  application.master = std::move(master);
+  HOLLERIN::SetUpApplication(application);
+}
 
 ScopedLanguage::ScopedLanguage(std::shared_ptr<RES::ILanguageMgr> language)
     : previous_(std::exchange(Process().language, std::move(language))) {}

@@ -9,10 +9,14 @@
 #include <string>
 #include <vector>
 
+#include "ifc/config_data_mgr.h"
 #include "ifc/language_mgr.h"
 
 /// What was written to the application's log since the last call.
 std::vector<std::wstring> TakeLog();
+
+/// Makes a store the global master configuration; empty for none.
+void SetGlobalMaster(std::shared_ptr<INTERNAL_IFC::IConfigDataMgr> master);
 
 /// Puts another language, or none, in the place of English for as long as the object lives.
 class ScopedLanguage {

@@ -130,4 +130,29 @@ TEST(MultiLineEdit, KeepsEveryCharacterOfItsText) {
   EXPECT_EQ(GetWindowText(edit->m_hWnd), text);
 }
 
+TEST(ListBox, RowsComeAndGoWithoutNotice) {
+  const TestModule module(kDialogs);
+  ListDialog dialog(500);
+  CListBox& list = dialog.list;
+  const auto rows = [&] {
+    QStringList texts;
+    for (int row = 0; row < list.GetCount(); ++row) texts << dialog.Widget().item(row)->text();
+    return texts.join('|');
+  };
+  list.SetCurSel(2);
+  EXPECT_EQ(list.InsertString(0, L"first"), 0);
+  EXPECT_EQ(list.InsertString(-1, L"last"), 5);
+  EXPECT_EQ(rows(), "first|a||b|c|last");
+  EXPECT_EQ(list.GetCurSel(), 3) << "the row stays selected";
+  EXPECT_EQ(list.DeleteString(0), 5);
+  EXPECT_EQ(list.GetCurSel(), 2);
+  EXPECT_EQ(list.DeleteString(2), 4);
+  EXPECT_EQ(list.GetCurSel(), LB_ERR) << "no neighbour takes its place";
+  EXPECT_EQ(rows(), "a||c|last");
+  for (const int outside : {-2, 5}) EXPECT_EQ(list.InsertString(outside, L"x"), LB_ERR);
+  for (const UINT outside : {4U, 0xFFFFFFFFU}) EXPECT_EQ(list.DeleteString(outside), LB_ERR);
+  EXPECT_EQ(rows(), "a||c|last");
+  EXPECT_TRUE(dialog.selected.empty());
+}
+
 }  // namespace

@@ -21,6 +21,7 @@ struct FakeMachine : Machine {
   std::optional<std::map<std::wstring, std::wstring>> Folders() const override { return folders; }
   std::optional<std::vector<DocumentFilter>> DocumentFilters() const override { return filters; }
   std::optional<std::vector<OcrLanguage>> OcrLanguages() const override { return languages; }
+  std::optional<CacheContents> Cache() const override { return cache; }
   bool Fails(std::wstring_view operation) const override { return operation == fails; }
   bool Opens(std::wstring_view path) const override {
     opened.emplace_back(path);
@@ -39,6 +40,7 @@ struct FakeMachine : Machine {
   std::optional<std::map<std::wstring, std::wstring>> folders;
   std::optional<std::vector<DocumentFilter>> filters;
   std::optional<std::vector<OcrLanguage>> languages;
+  std::optional<CacheContents> cache;
   std::wstring fails;
   std::optional<std::vector<EditorFact>> editors;
   std::optional<std::vector<std::wstring>> components;

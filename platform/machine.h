@@ -3,13 +3,16 @@
 // The facts of the machine, behind one interface so that a program or a test can replace them.
 // The base class answers for the real machine.
 
+#include <atomic>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 constexpr const char* kPortableMark = "portable";
+constexpr std::size_t kMostFolderNames = 250000;
 
 class Machine {
  public:
@@ -30,6 +33,12 @@ class Machine {
   /// real machine has none.
   virtual std::map<wchar_t, std::wstring> Drives() const;
 
+  /// The names of the folders in a folder of this system, links to folders included, in no order
+  /// and at most kMostFolderNames; none when it cannot be read. Called on threads of their own, as
+  /// a folder may be long or hang; ends early, with what it has, once `cancelled` is set.
+  virtual std::vector<std::wstring> FolderNames(const std::wstring& nativeFolder,
+                                                const std::atomic<bool>& cancelled) const;
+
   /// The placeholders of the application folders with the folders they stand for ("%DATA%"), when
   /// the machine dictates them; empty when they are those of the user.
   virtual std::optional<std::map<std::wstring, std::wstring>> Folders() const;
@@ -48,6 +57,9 @@ class Machine {
 
 /// The machine in use; the real one until SetMachine replaces it. Never null.
 const Machine& GetMachine();
+
+/// The same for threads, which may go on when the machine has been replaced.
+std::shared_ptr<const Machine> ShareMachine();
 
 /// Replaces the machine in use; an empty pointer brings the real one back.
 void SetMachine(std::shared_ptr<const Machine> machine);

@@ -93,4 +93,7 @@ constexpr DialogText kHistorySaveResults = {140, 19};
 constexpr DialogText kHistoryListName = {5562, 1};
 constexpr DialogText kHistoryEditText = {5562, 2};
 
+// What stands before an entry of several folders in the history of a look-in combo.
+constexpr DialogText kSeveralFolders = {5547, 10};
+
 }  // namespace TextId

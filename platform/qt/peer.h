@@ -75,6 +75,8 @@ struct Peer {
   virtual std::wstring Text() const;
   virtual void SetText(const std::wstring& text);
   virtual void SetFont(const QFont& font);
+  /// Called when the window has its handle: a control of several windows makes the others now.
+  virtual void MakeParts() {}
   /// Whether a part of the control's own in another window, such as its dropped list, has the focus
   /// now: the control's widget losing it to that part is no loss for the control.
   virtual bool HoldsFocus() const { return false; }

@@ -2,6 +2,7 @@
 
 // A machine whose facts a test states.
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -16,10 +17,15 @@ struct FakeMachine : Machine {
     opened.emplace_back(path);
     return opens;
   }
+  std::vector<std::wstring> FolderNames(const std::wstring& folder,
+                                        const std::atomic<bool>& cancelled) const override {
+    return folderNames ? folderNames(folder) : Machine::FolderNames(folder, cancelled);
+  }
   std::optional<bool> PlaysSound(std::wstring_view) const override { return sound; }
 
   std::map<wchar_t, std::wstring> drives;
   std::optional<std::map<std::wstring, std::wstring>> folders;
+  std::function<std::vector<std::wstring>(const std::wstring&)> folderNames;
   std::wstring fails;
   bool opens = true;
   std::optional<bool> sound;

@@ -39,7 +39,6 @@ void CompletionList::Open(const QStringList& rows) {
   const int y = fitsBelow ? place.bottom() + 1 : place.top() - size.height();
   setGeometry(QRect(QPoint(std::max(x, screen.left()), y), size));
   show();
-  raise();
 }
 
 void CompletionList::Highlight(int row) {

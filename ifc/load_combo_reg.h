@@ -2,6 +2,7 @@
 
 // A history provider: fills drop-down lists from the histories it keeps.
 
+#include <functional>
 #include <vector>
 
 #include "platform/text.h"
@@ -10,13 +11,25 @@ class CComboBox;
 
 namespace INTERNAL_IFC {
 
+/// How an entry of a history reads in a list.
+using ShownEntry = std::function<CString(const CString& entry)>;
+
 /// The place of every operation is fixed; those that nobody calls are reserved and answer
 /// E_NOTIMPL.
 class ILoadComboReg {
  public:
   virtual ~ILoadComboReg() = default;                // 0
   virtual HRESULT Reserved1() { return E_NOTIMPL; }  // 1
-  virtual HRESULT Reserved2() { return E_NOTIMPL; }  // 2
+  /// Makes the rows of the combo the entries of the history of looked-in folders, newest first.
+  /// `forced` says that rows which the combo has already may be out of date. With `keepText` the
+  /// combo's text and its selection stay, without it the newest entry is shown. With `labelled` a
+  /// row reads what `shown` makes of its entry, without it the entry itself; `shown` is called
+  /// once for each row, in order, in both cases. The item data of a row is the number of that
+  /// call, from 0.
+  virtual HRESULT Fill(CComboBox*, bool /*forced*/, bool /*keepText*/, bool /*labelled*/,
+                       const ShownEntry& /*shown*/) {
+    return E_NOTIMPL;
+  }                                                  // 2
   virtual HRESULT Reserved3() { return E_NOTIMPL; }  // 3
   virtual HRESULT Reserved4() { return E_NOTIMPL; }  // 4
   /// Brings combo and history in line: with false the history is attached to the combo and its

@@ -44,6 +44,15 @@ void CBCGPStatic::MarkAsSeparator() {
   if (Peer* peer = FindPeer(m_hWnd)) SetPeerKind(*peer, ControlKind::Separator);
 }
 
+BEGIN_MESSAGE_MAP(CBCGPEdit, CEdit)
+ON_WM_SYSKEYDOWN()
+END_MESSAGE_MAP()
+
+void CBCGPEdit::OnSysKeyDown(UINT key, UINT repeats, UINT flags) {
+  if (key != VK_RIGHT) return CEdit::OnSysKeyDown(key, repeats, flags);
+  OnBrowse();
+}
+
 void CBCGPComboBox::SetItemIndent(int row, int pixels) {
   if (auto* peer = FindPeerAs<ComboPeer>(m_hWnd)) peer->SetRow(row, ComboPeer::IndentRole, pixels);
 }

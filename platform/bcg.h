@@ -45,7 +45,15 @@ class CBCGPStatic : public CStatic {
   /// Makes the static known as a section heading, as which the class draws it.
   void MarkAsSeparator();
 };
-class CBCGPEdit : public CEdit {};
+class CBCGPEdit : public CEdit {
+ public:
+  /// The user wants to browse for what the edit holds: Alt+Right was pressed.
+  virtual void OnBrowse() {}
+
+ protected:
+  void OnSysKeyDown(UINT key, UINT repeats, UINT flags);
+  DECLARE_MESSAGE_MAP()
+};
 class CBCGPTreeCtrl : public CTreeCtrl {};
 
 class CBCGPComboBox : public CComboBox {

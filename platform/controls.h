@@ -31,6 +31,11 @@ class CEdit : public CWnd {
   void SetLimitText(UINT characters);
 };
 
+/// The control number of a combo box's edit part, which is a child window of the combo. It gets the
+/// combo's key messages first (WM_KEYDOWN, WM_SYSKEYDOWN with Alt held down, then WM_CHAR for what
+/// types a character, Backspace among it); Default lets the combo do with the key what it does.
+constexpr UINT kComboEditId = 1001;
+
 /// Row numbers are 0-based; CB_ERR stands for none.
 constexpr int CB_ERR = -1;
 

@@ -3,6 +3,7 @@
 // The facts of the machine, behind one interface so that a program or a test can replace them.
 // The base class answers for the real machine.
 
+#include <atomic>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -14,6 +15,7 @@
 #include "platform/machine_facts.h"
 
 constexpr const char* kPortableMark = "portable";
+constexpr std::size_t kMostFolderNames = 250000;
 
 class Machine {
  public:
@@ -44,6 +46,12 @@ class Machine {
   /// Where the drives of Windows-style paths lie: upper-case letter to folder of this system. The
   /// real machine has none.
   virtual std::map<wchar_t, std::wstring> Drives() const;
+
+  /// The names of the folders in a folder of this system, links to folders included, in no order
+  /// and at most kMostFolderNames; none when it cannot be read. Called on threads of their own, as
+  /// a folder may be long or hang; ends early, with what it has, once `cancelled` is set.
+  virtual std::vector<std::wstring> FolderNames(const std::wstring& nativeFolder,
+                                                const std::atomic<bool>& cancelled) const;
 
   /// The placeholders of the application folders with the folders they stand for ("%DATA%"), when
   /// the machine dictates them; empty when they are those of the user.
@@ -84,6 +92,9 @@ class Machine {
 
 /// The machine in use; the real one until SetMachine replaces it. Never null.
 const Machine& GetMachine();
+
+/// The same for threads, which may go on when the machine has been replaced.
+std::shared_ptr<const Machine> ShareMachine();
 
 /// Replaces the machine in use; an empty pointer brings the real one back.
 void SetMachine(std::shared_ptr<const Machine> machine);

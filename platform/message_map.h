@@ -114,6 +114,14 @@ bool KillFocus(CCmdTarget& target, const MessageArguments&, LRESULT& result) {
 }
 
 template <class Target, auto Handler>
+bool Key(CCmdTarget& target, const MessageArguments& arguments, LRESULT& result) {
+  (As<Target>(target).*Handler)(static_cast<UINT>(arguments.wParam), 1,
+                                static_cast<UINT>(arguments.lParam));
+  result = 0;
+  return true;
+}
+
+template <class Target, auto Handler>
 bool MinMaxInfo(CCmdTarget& target, const MessageArguments& arguments, LRESULT& result) {
   (As<Target>(target).*Handler)(reinterpret_cast<MINMAXINFO*>(arguments.lParam));
   result = 0;
@@ -166,6 +174,10 @@ bool MinMaxInfo(CCmdTarget& target, const MessageArguments& arguments, LRESULT& 
   {WM_DESTROY, 0, 0, 0, &message_map::Plain<ThisClass, &ThisClass::OnDestroy>},
 #define ON_WM_KILLFOCUS() \
   {WM_KILLFOCUS, 0, 0, 0, &message_map::KillFocus<ThisClass, &ThisClass::OnKillFocus>},
+#define ON_WM_KEYDOWN() {WM_KEYDOWN, 0, 0, 0, &message_map::Key<ThisClass, &ThisClass::OnKeyDown>},
+#define ON_WM_SYSKEYDOWN() \
+  {WM_SYSKEYDOWN, 0, 0, 0, &message_map::Key<ThisClass, &ThisClass::OnSysKeyDown>},
+#define ON_WM_CHAR() {WM_CHAR, 0, 0, 0, &message_map::Key<ThisClass, &ThisClass::OnChar>},
 #define ON_WM_ERASEBKGND() \
   {WM_ERASEBKGND, 0, 0, 0, &message_map::EraseBackground<ThisClass, &ThisClass::OnEraseBkgnd>},
 #define ON_WM_GETMINMAXINFO() \

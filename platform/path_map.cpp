@@ -15,14 +15,15 @@ namespace {
 constexpr std::wstring_view kLongPrefix = L"\\\\?\\";
 constexpr std::wstring_view kSeparators = L"\\/";
 
+using Drives = std::map<wchar_t, std::wstring>;
+
 bool HasDrive(std::wstring_view path) {
   if (path.size() < 2 || path[1] != L':') return false;
   return (path[0] >= L'A' && path[0] <= L'Z') || (path[0] >= L'a' && path[0] <= L'z');
 }
 
 /// The drive's folder, without a separator at its end; nothing for an unknown drive.
-std::optional<std::wstring> DriveFolder(wchar_t letter) {
-  const auto drives = GetMachine().Drives();
+std::optional<std::wstring> DriveFolder(wchar_t letter, const Drives& drives) {
   const auto found = drives.find(letter >= L'a' ? letter - L'a' + L'A' : letter);
   if (found == drives.end() || found->second.empty()) return std::nullopt;
   return found->second.substr(0, found->second.find_last_not_of(L'/') + 1);
@@ -94,11 +95,15 @@ bool IsWindowsPath(std::wstring_view path) {
 }
 
 std::wstring NativePath(std::wstring_view path) {
+  return NativePath(path, IsWindowsPath(path) ? GetMachine().Drives() : Drives());
+}
+
+std::wstring NativePath(std::wstring_view path, const Drives& drives) {
   if (path.find(L'\0') != std::wstring_view::npos) return NoPlace();
   if (!IsWindowsPath(path)) return path.empty() ? NoPlace() : std::wstring(path);
   if (path.starts_with(kLongPrefix)) path.remove_prefix(kLongPrefix.size());
   if (!HasDrive(path)) return NoPlace();
-  const auto folder = DriveFolder(path[0]);
+  const auto folder = DriveFolder(path[0], drives);
   return folder ? OnDrive(*folder, path.substr(2)) : NoPlace();
 }
 

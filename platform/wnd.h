@@ -108,6 +108,9 @@ class CWnd : public CCmdTarget {
   void OnSize(UINT type, int cx, int cy);
   BOOL OnEraseBkgnd(CDC* dc);
   void OnKillFocus(CWnd* receiver);
+  void OnKeyDown(UINT key, UINT repeats, UINT flags);
+  void OnSysKeyDown(UINT key, UINT repeats, UINT flags);
+  void OnChar(UINT character, UINT repeats, UINT flags);
   void OnDestroy();
   DECLARE_MESSAGE_MAP()
 

@@ -86,4 +86,7 @@ BOOL CWnd::PreTranslateMessage(MSG*) { return FALSE; }
 void CWnd::OnSize(UINT, int, int) { Default(); }
 BOOL CWnd::OnEraseBkgnd(CDC*) { return Default() != 0; }
 void CWnd::OnKillFocus(CWnd*) { Default(); }
+void CWnd::OnKeyDown(UINT, UINT, UINT) { Default(); }
+void CWnd::OnSysKeyDown(UINT, UINT, UINT) { Default(); }
+void CWnd::OnChar(UINT, UINT, UINT) { Default(); }
 void CWnd::OnDestroy() { Default(); }

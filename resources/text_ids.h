@@ -163,4 +163,7 @@ constexpr DialogText kInstanceSingle = {5536, 11};
 /// What names the edit of the days in the dialog of the text cache.
 constexpr DialogText kCacheDaysName = {5552, 18};
 
+// What stands before an entry of several folders in the history of a look-in combo.
+constexpr DialogText kSeveralFolders = {5547, 10};
+
 }  // namespace TextId

@@ -1,6 +1,7 @@
 #include "host/drive/describe.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -65,6 +66,15 @@ QJsonObject DescribeMenu(const QMenu& menu) {
                          {"enabled", action->isEnabled()}};
   }
   return {{"kind", "menu"}, {"items", items}};
+}
+
+QJsonObject DescribeCompletion(const QWidget& window) {
+  const auto* list = qobject_cast<const QAbstractItemView*>(&window);
+  QStringList items;
+  for (int row = 0; list != nullptr && row < list->model()->rowCount(); ++row) {
+    items << list->model()->index(row, 0).data().toString();
+  }
+  return {{"kind", "completion"}, {"items", ToArray(items)}};
 }
 
 void DescribeCombo(const QComboBox& combo, QJsonObject& description) {
@@ -154,6 +164,7 @@ QJsonObject DescribeWindow(const QWidget* window) {
   if (const auto* menu = qobject_cast<const QMenu*>(window)) return DescribeMenu(*menu);
   if (IsPicker(window)) return DescribePicker(*window);
   if (IsProgress(window)) return {{"kind", "progress"}, {"title", window->windowTitle()}};
+  if (IsCompletion(window)) return DescribeCompletion(*window);
   return {{"kind", "tool"}, {"title", window->windowTitle()}};
 }
 

@@ -2,16 +2,22 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QVariant>
 #include <QWidget>
 
 namespace {
 
 bool IsWindowOfItsOwn(const QWidget* widget) {
+  if (IsCompletion(widget)) return true;
   return widget->isWindow() && widget->windowType() != Qt::ToolTip &&
          widget->windowType() != Qt::Desktop && !widget->inherits("QComboBoxPrivateContainer");
 }
 
 }  // namespace
+
+bool IsCompletion(const QWidget* window) {
+  return window->property("windowKind").toString() == QLatin1String("completion");
+}
 
 WindowStack::WindowStack() { QCoreApplication::instance()->installEventFilter(this); }
 
@@ -26,8 +32,10 @@ QList<QWidget*> WindowStack::All() const {
 }
 
 QWidget* WindowStack::Top() const {
-  const QList<QWidget*> windows = All();
-  return windows.isEmpty() ? nullptr : windows.front();
+  for (QWidget* window : All()) {
+    if (!IsCompletion(window)) return window;
+  }
+  return nullptr;
 }
 
 QWidget* WindowStack::CoverOf(const QWidget* window) const {

@@ -8,6 +8,9 @@
 
 class QWidget;
 
+/// Whether the window is a list of suggestions for what a person types.
+bool IsCompletion(const QWidget* window);
+
 /// Watches all events of the process: keeps the open windows in the order in which they were shown,
 /// and counts the events. What only belongs to a control, such as a dropped list or a tooltip, is
 /// no window.
@@ -18,7 +21,7 @@ class WindowStack : public QObject {
 
   /// Top first.
   QList<QWidget*> All() const;
-  /// Null when no window is open.
+  /// The window that has the keyboard, as a list of suggestions never does; null when none is open.
   QWidget* Top() const;
   /// The window that keeps a person away from `window`; null when there is none.
   QWidget* CoverOf(const QWidget* window) const;

@@ -7,6 +7,7 @@
 #include <climits>
 
 #include "platform/controls.h"
+#include "platform/qt/combo_edit_peer.h"
 #include "platform/qt/combo_widget.h"
 #include "platform/qt/control_parts.h"
 
@@ -70,6 +71,18 @@ ComboPeer::ComboPeer(DWORD controlStyle, const std::wstring&, QWidget* host) {
     if (auto* peer = PeerOf<ComboPeer>(combo)) peer->OnEdited();
   });
 }
+
+void ComboPeer::MakeParts() {
+  QLineEdit* edit = Combo().lineEdit();
+  if (edit == nullptr) return;
+  auto part = std::make_unique<ComboEditPeer>(*edit);
+  part->parent = handle;
+  part->id = static_cast<int>(kComboEditId);
+  part->templateId = templateId;
+  editPart_ = RegisterPeer(std::move(part));
+}
+
+ComboEditPeer* ComboPeer::EditPart() const { return FindPeerAs<ComboEditPeer>(editPart_); }
 
 std::wstring ComboPeer::Text() const {
   if (const QLineEdit* edit = Combo().lineEdit()) return FromQt(edit->text());

@@ -7,6 +7,7 @@
 
 #include "platform/qt/peer.h"
 
+class ComboEditPeer;
 class ComboWidget;
 
 /// The widget is a QComboBox that keeps the height of one row whatever height it is given: the
@@ -20,6 +21,7 @@ class ComboPeer final : public Peer {
   void SetText(const std::wstring& newText) override;
   LRESULT DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool HoldsFocus() const override { return dropped_; }
+  void MakeParts() override;
 
   /// The row it got, CB_ERR when there is no such place; a row of -1 appends.
   int Insert(int row, const QString& rowText);
@@ -52,6 +54,9 @@ class ComboPeer final : public Peer {
   LRESULT Notify(UINT code);
   void ChooseRow(int row);
 
+  /// The edit part; null when the combo has none.
+  ComboEditPeer* EditPart() const;
+
  private:
   friend class ComboWidget;
 
@@ -70,6 +75,7 @@ class ComboPeer final : public Peer {
 
   int known_ = -1;     ///< The selection before whatever the user does next.
   int previous_ = -1;  ///< The selection before the user's last choice.
+  HWND editPart_ = nullptr;
   bool dropped_ = false;
   int droppedWidth_ = 0;
 };

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QStyledItemDelegate>
 
+#include "platform/qt/combo_edit_peer.h"
 #include "platform/qt/combo_peer.h"
 #include "platform/qt/control_parts.h"
 
@@ -49,6 +50,7 @@ void ComboWidget::showPopup() {
   peer->OnAboutToDrop();
   peer = PeerOf<ComboPeer>(this);
   if (peer == nullptr) return;
+  if (const ComboEditPeer* edit = peer->EditPart()) edit->CloseCompletion();
   WatchList();
   view()->window()->setMinimumWidth(listWidth_);
   opening_ = true;
@@ -95,6 +97,14 @@ void ComboWidget::focusOutEvent(QFocusEvent* event) {
   // The list only borrows the focus; the selection in the edit part stays.
   QFocusEvent borrowed(QEvent::FocusOut, Qt::PopupFocusReason);
   QComboBox::focusOutEvent(&borrowed);
+}
+
+void ComboWidget::keyPressEvent(QKeyEvent* event) {
+  auto* peer = PeerOf<ComboPeer>(this);
+  ComboEditPeer* edit = peer != nullptr ? peer->EditPart() : nullptr;
+  const auto act = [this, event] { QComboBox::keyPressEvent(event); };
+  if (edit == nullptr) return act();
+  edit->OnKey(*event, act);
 }
 
 void ComboWidget::changeEvent(QEvent* event) {

@@ -20,6 +20,7 @@ class ComboWidget final : public QComboBox {
  protected:
   void changeEvent(QEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void initStyleOption(QStyleOptionComboBox* option) const override;
 
  private:

@@ -21,12 +21,12 @@ std::pair<int, int> Clamped(int start, int end, int length) {
   return {std::min(start, length), std::min(end, length)};
 }
 
-class LineEditPeer final : public EditPeer {
+/// An edit of one line that is a control of its own.
+class SingleEditPeer final : public LineEditPeer {
  public:
-  LineEditPeer(DWORD controlStyle, const std::wstring& initialText, QWidget* host) {
-    auto* edit = new QLineEdit(ToQt(initialText), host);
-    widget = edit;
-    kind = ControlKind::Edit;
+  SingleEditPeer(DWORD controlStyle, const std::wstring& initialText, QWidget* host)
+      : LineEditPeer(*new QLineEdit(ToQt(initialText), host)) {
+    QLineEdit* edit = &Edit();
     edit->setMaxLength(kNoLimit);
     edit->setReadOnly((controlStyle & ES_READONLY) != 0);
     if ((controlStyle & ES_NUMBER) != 0) {
@@ -35,26 +35,6 @@ class LineEditPeer final : public EditPeer {
     }
     QObject::connect(edit, &QLineEdit::textChanged, edit, [edit] { NotifyChange(edit); });
   }
-
-  std::wstring Text() const override { return FromQt(Edit().text()); }
-  void SetText(const std::wstring& newText) override { Edit().setText(ToQt(newText)); }
-
-  void SetSelection(int start, int end) override {
-    if (start < 0) return Edit().deselect();
-    const auto [first, last] = Clamped(start, end, int(Edit().text().size()));
-    Edit().setSelection(first, last - first);
-  }
-  std::pair<int, int> Selection() const override {
-    if (!Edit().hasSelectedText()) return {Edit().cursorPosition(), Edit().cursorPosition()};
-    return {Edit().selectionStart(), Edit().selectionEnd()};
-  }
-  void SetReadOnly(bool readOnly) override { Edit().setReadOnly(readOnly); }
-  void SetLimit(int characters) override {
-    Edit().setMaxLength(characters > 0 ? characters : kNoLimit);
-  }
-
- private:
-  QLineEdit& Edit() const { return static_cast<QLineEdit&>(*widget); }
 };
 
 /// An edit of several lines. Tab leaves it, and a limit stops what is typed or pasted.
@@ -145,7 +125,34 @@ class TextEditPeer final : public EditPeer {
 
 }  // namespace
 
+LineEditPeer::LineEditPeer(QLineEdit& edit) {
+  widget = &edit;
+  kind = ControlKind::Edit;
+}
+
+QLineEdit& LineEditPeer::Edit() const { return static_cast<QLineEdit&>(*widget); }
+
+std::wstring LineEditPeer::Text() const { return FromQt(Edit().text()); }
+void LineEditPeer::SetText(const std::wstring& newText) { Edit().setText(ToQt(newText)); }
+
+void LineEditPeer::SetSelection(int start, int end) {
+  if (start < 0) return Edit().deselect();
+  const auto [first, last] = Clamped(start, end, int(Edit().text().size()));
+  Edit().setSelection(first, last - first);
+}
+
+std::pair<int, int> LineEditPeer::Selection() const {
+  if (!Edit().hasSelectedText()) return {Edit().cursorPosition(), Edit().cursorPosition()};
+  return {Edit().selectionStart(), Edit().selectionEnd()};
+}
+
+void LineEditPeer::SetReadOnly(bool readOnly) { Edit().setReadOnly(readOnly); }
+
+void LineEditPeer::SetLimit(int characters) {
+  Edit().setMaxLength(characters > 0 ? characters : kNoLimit);
+}
+
 std::unique_ptr<Peer> EditPeer::Make(DWORD style, const std::wstring& text, QWidget* host) {
   if ((style & ES_MULTILINE) != 0) return std::make_unique<TextEditPeer>(style, text, host);
-  return std::make_unique<LineEditPeer>(style, text, host);
+  return std::make_unique<SingleEditPeer>(style, text, host);
 }

@@ -4,6 +4,8 @@
 
 #include "platform/qt/peer.h"
 
+class QLineEdit;
+
 class EditPeer : public Peer {
  public:
   /// Makes the one that the style asks for.
@@ -16,4 +18,20 @@ class EditPeer : public Peer {
   virtual void SetReadOnly(bool readOnly) = 0;
   /// Greatest number of characters that can be typed; 0 takes the limit away.
   virtual void SetLimit(int characters) = 0;
+};
+
+/// A field of one line, which the caller has made.
+class LineEditPeer : public EditPeer {
+ public:
+  explicit LineEditPeer(QLineEdit& edit);
+
+  std::wstring Text() const override;
+  void SetText(const std::wstring& newText) override;
+  void SetSelection(int start, int end) override;
+  std::pair<int, int> Selection() const override;
+  void SetReadOnly(bool readOnly) override;
+  void SetLimit(int characters) override;
+
+ protected:
+  QLineEdit& Edit() const;
 };

@@ -14,7 +14,7 @@ constexpr KeyRow kKeys[] = {
     {Qt::Key_Return, VK_RETURN},  {Qt::Key_Enter, VK_RETURN},  {Qt::Key_Escape, VK_ESCAPE},
     {Qt::Key_PageUp, VK_PRIOR},   {Qt::Key_PageDown, VK_NEXT}, {Qt::Key_End, VK_END},
     {Qt::Key_Home, VK_HOME},      {Qt::Key_Up, VK_UP},         {Qt::Key_Down, VK_DOWN},
-    {Qt::Key_Delete, VK_DELETE},  {Qt::Key_F4, VK_F4},
+    {Qt::Key_Right, VK_RIGHT},    {Qt::Key_Delete, VK_DELETE}, {Qt::Key_F4, VK_F4},
 };
 
 /// Offers the key to one window's object. True when it took the key or its window is gone.

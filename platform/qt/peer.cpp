@@ -53,6 +53,9 @@ void ShowKind(const Peer& peer) {
 }
 
 void Describe(const Peer& peer) {
+  const Peer* parent = FindPeer(peer.parent);
+  // A part of a control is nothing that a person would name.
+  if (parent != nullptr && parent->kind != ControlKind::Dialog) return;
   QWidget& widget = *peer.widget;
   const bool topLevel = peer.kind == ControlKind::Dialog && peer.parent == nullptr;
   const QString templateName = QString::number(peer.templateId);
@@ -84,6 +87,7 @@ HWND RegisterPeer(std::unique_ptr<Peer> peer) {
   Describe(entered);
   InstallEventFilter(entered);
   QObject::connect(entered.widget, &QObject::destroyed, [window] { ForgetWindow(window); });
+  entered.MakeParts();
   return window;
 }
 

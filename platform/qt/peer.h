@@ -77,6 +77,9 @@ struct Peer {
   virtual void SetFont(const QFont& font);
   /// The style has changed in these bits, of which the widget shows those of its class.
   virtual void OnStyleChanged(DWORD) {}
+
+  /// Called when the window has its handle: a control of several windows makes the others now.
+  virtual void MakeParts() {}
   /// Whether a part of the control's own in another window, such as its dropped list, has the focus
   /// now: the control's widget losing it to that part is no loss for the control.
   virtual bool HoldsFocus() const { return false; }

@@ -16,6 +16,10 @@ using StoreHandle = std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>;
 /// user can ask for, so that a damaged one is read to its end.
 constexpr int kGreatestGap = 1000;
 
+/// The history that Fill shows, and the most of its entries that a list is good for.
+constexpr const wchar_t* kLookInHistory = L"RecentFolders";
+constexpr std::size_t kMostLookIn = 100;
+
 /// Fills the list and leaves the text with its selection as the user left it.
 void FillRows(CComboBox& combo, const std::vector<CString>& items) {
   CString text;
@@ -46,6 +50,24 @@ class CLoadComboReg final : public INTERNAL_IFC::ILoadComboReg {
     Read(items);
     FillRows(*combo, items);
     if (!aboutToDrop && !items.empty()) combo->SetCurSel(0);
+    return S_OK;
+  }
+
+  HRESULT Fill(CComboBox* combo, bool /*forced*/, bool keepText, bool labelled,
+               const INTERNAL_IFC::ShownEntry& shown) override {
+    if (combo == nullptr || shown == nullptr) return E_INVALIDARG;
+    if (GetMachine().Fails(L"Fill")) return E_FAIL;
+    std::vector<CString> rows;
+    for (const CString& entry : ReadSection(kLookInHistory, kMostLookIn)) {
+      CString row = shown(entry);
+      rows.push_back(labelled ? std::move(row) : entry);
+    }
+    FillRows(*combo, rows);
+    const int count = static_cast<int>(rows.size());
+    for (int row = 0; row < count; ++row) {
+      combo->SetItemData(row, static_cast<DWORD_PTR>(row));
+    }
+    if (!keepText && count > 0) combo->SetCurSel(0);
     return S_OK;
   }
 
@@ -80,15 +102,17 @@ class CLoadComboReg final : public INTERNAL_IFC::ILoadComboReg {
     return section_.empty() || GetMachine().Fails(operation);
   }
 
-  void Read(std::vector<CString>& items) const {
-    EntryList list(maximum_);
+  void Read(std::vector<CString>& items) const { items = ReadSection(section_, maximum_); }
+
+  std::vector<CString> ReadSection(const std::wstring& section, std::size_t maximum) const {
+    EntryList list(maximum);
     int missing = 0;
     for (int key = 0; missing < kGreatestGap && !list.Full(); ++key) {
-      const std::wstring entry = store_->ReadString(section_, std::to_wstring(key), {});
+      const std::wstring entry = store_->ReadString(section, std::to_wstring(key), {});
       missing = entry.empty() ? missing + 1 : 0;
       list.Add(entry);
     }
-    items = list.Take();
+    return list.Take();
   }
 
   StoreHandle store_;

@@ -2,6 +2,7 @@
 
 // A machine whose facts a test states.
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -30,6 +31,10 @@ struct FakeMachine : Machine {
   std::optional<std::vector<EditorFact>> Editors() const override { return editors; }
   std::optional<std::vector<std::wstring>> Components() const override { return components; }
   std::vector<std::string> ComponentFolders() const override { return componentFolders; }
+  std::vector<std::wstring> FolderNames(const std::wstring& folder,
+                                        const std::atomic<bool>& cancelled) const override {
+    return folderNames ? folderNames(folder) : Machine::FolderNames(folder, cancelled);
+  }
   std::optional<bool> PlaysSound(std::wstring_view) const override { return sound; }
 
   bool portable = false;
@@ -41,6 +46,7 @@ struct FakeMachine : Machine {
   std::optional<std::vector<DocumentFilter>> filters;
   std::optional<std::vector<OcrLanguage>> languages;
   std::optional<CacheContents> cache;
+  std::function<std::vector<std::wstring>(const std::wstring&)> folderNames;
   std::wstring fails;
   std::optional<std::vector<EditorFact>> editors;
   std::optional<std::vector<std::wstring>> components;

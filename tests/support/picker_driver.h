@@ -9,6 +9,7 @@
 #include <QListView>
 #include <QPointer>
 #include <QtTest/QTest>
+#include <algorithm>
 #include <functional>
 
 class PickerDriver : public QObject {
@@ -46,20 +47,20 @@ class PickerDriver : public QObject {
   /// Clicks the folders of those names in the list, all but the first with Ctrl.
   static void ClickInList(QFileDialog& picker, const QStringList& names) {
     auto* list = picker.findChild<QListView*>(QStringLiteral("listView"));
-    auto* model = picker.findChild<QFileSystemModel*>();
-    if (model->rowCount(model->index(picker.directory().path())) < names.size()) {
+    const auto* model = picker.findChild<QFileSystemModel*>();
+    // Folders are read bit by bit beside the program.
+    while (!std::all_of(names.begin(), names.end(), [list](const QString& name) {
+      return FindInList(*list, name).isValid();
+    })) {
       QEventLoop loading;
       connect(model, &QFileSystemModel::directoryLoaded, &loading, &QEventLoop::quit);
+      connect(model, &QFileSystemModel::rowsInserted, &loading, &QEventLoop::quit);
       loading.exec();
     }
     Qt::KeyboardModifiers modifiers;
     for (const QString& name : names) {
-      for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row) {
-        const QModelIndex index = list->model()->index(row, 0, list->rootIndex());
-        if (index.data().toString() != name) continue;
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers,
-                          list->visualRect(index).center());
-      }
+      QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers,
+                        list->visualRect(FindInList(*list, name)).center());
       modifiers = Qt::ControlModifier;
     }
   }
@@ -67,6 +68,14 @@ class PickerDriver : public QObject {
   int shown = 0;
 
  private:
+  static QModelIndex FindInList(const QListView& list, const QString& name) {
+    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row) {
+      const QModelIndex index = list.model()->index(row, 0, list.rootIndex());
+      if (index.data().toString() == name) return index;
+    }
+    return {};
+  }
+
   Use use_;
   QPointer<QFileDialog> used_;
 };

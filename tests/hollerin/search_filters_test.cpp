@@ -7,6 +7,7 @@
 #include "hollerin/sample_values.h"
 #include "hollerin/search_filter_text.h"
 #include "hollerin/store_xml.h"
+#include "platform/text.h"
 #include "support/fake_machine.h"
 
 namespace {

@@ -62,7 +62,9 @@ Status ShowMessage(HWND) {
 
 const BRISQUEL::EntryPoints* BrisquelEntryPoints() {
   static constexpr BRISQUEL::EntryPoints kEntryPoints = {
-      &BRISQUEL::OpenConfigDialog, &BRISQUEL::ShowMessage, &BRISQUEL::OpenClearHistoryDialog,
-      &BRISQUEL::OpenEditHistoryDialog, &BRISQUEL::OpenLanguageDialog};
+      &BRISQUEL::OpenConfigDialog,       &BRISQUEL::ShowMessage,
+      &BRISQUEL::OpenClearHistoryDialog, &BRISQUEL::OpenEditHistoryDialog,
+      &BRISQUEL::OpenLanguageDialog,     &BRISQUEL::OpenDocumentSettings,
+      &BRISQUEL::OpenArchiveSettings,    &BRISQUEL::OpenOCRSettings};
   return &kEntryPoints;
 }

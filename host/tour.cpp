@@ -114,7 +114,10 @@ struct Standalone {
 constexpr Standalone kStandalones[] = {{"ShowMessage", "message"},
                                        {"OpenClearHistoryDialog", "clear-history"},
                                        {"OpenEditHistoryDialog", "edit-history"},
-                                       {"OpenLanguageDialog", "language"}};
+                                       {"OpenLanguageDialog", "language"},
+                                       {"OpenDocumentSettings", "documents"},
+                                       {"OpenArchiveSettings", "archives"},
+                                       {"OpenOCRSettings", "ocr"}};
 
 void AddDialog(Script& script, const Standalone& dialog) {
   script.Add({{"do", "open"}, {"entry", dialog.entry}});

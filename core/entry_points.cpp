@@ -64,6 +64,8 @@ const BRISQUEL::EntryPoints* BrisquelEntryPoints() {
   static constexpr BRISQUEL::EntryPoints kEntryPoints = {
       &BRISQUEL::OpenConfigDialog,       &BRISQUEL::ShowMessage,
       &BRISQUEL::OpenClearHistoryDialog, &BRISQUEL::OpenEditHistoryDialog,
-      &BRISQUEL::OpenLanguageDialog,     &BRISQUEL::OpenCacheSettings};
+      &BRISQUEL::OpenLanguageDialog,     &BRISQUEL::OpenDocumentSettings,
+      &BRISQUEL::OpenArchiveSettings,    &BRISQUEL::OpenOCRSettings,
+      &BRISQUEL::OpenCacheSettings};
   return &kEntryPoints;
 }

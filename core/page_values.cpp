@@ -91,12 +91,18 @@ void ExchangeNumber(CDataExchange* exchange, const Row& row, int& stored) {
   stored = ToStored(row, shown);
 }
 
+int IndexOf(std::span<const int> numbers, int stored) {
+  const auto found = std::ranges::find(numbers, stored);
+  return found != numbers.end() ? static_cast<int>(found - numbers.begin()) : 0;
+}
+
 }  // namespace
 
 int ToControl(const Row& row, int stored) {
   const Control& control = row.control;
   if (control.inverted) return stored == 0 ? 1 : 0;
   if (control.flag) return stored > 0 ? 1 : 0;
+  if (!control.numbers.empty()) return IndexOf(control.numbers, stored);
   const bool counted = control.kind == Kind::kRadio || control.kind == Kind::kRow;
   if (counted && (stored < 0 || stored >= control.buttons)) return 0;
   if (control.usual != 0 && stored <= 0) return control.usual;
@@ -107,6 +113,9 @@ int ToStored(const Row& row, int shown) {
   const Control& control = row.control;
   const bool isBool = row.stored.readAs == Type::kBool;
   if (control.inverted) return control.kind == Kind::kRadio ? shown == 0 : shown != BST_CHECKED;
+  if (!control.numbers.empty()) {
+    return control.numbers[static_cast<std::size_t>(std::max(shown, 0))];
+  }
   if (control.kind == Kind::kRadio && isBool) return shown != 0 ? 1 : 0;
   if (isBool || control.flag) return shown == BST_CHECKED ? 1 : 0;
   if (control.kind == Kind::kRow && (shown < 0 || shown >= control.buttons)) return 0;

@@ -1,8 +1,9 @@
 #pragma once
 
-// The table of a page's values. One row says where the store keeps a value, in which type and with
-// which default, and which control shows it how; the frame of the pages (value_page.h) does the
-// rest. Rows are checked when the table is compiled.
+// The table of the values of a page or dialog. One row says where the store keeps a value, in which
+// type and with which default, and which control shows it how; the frame of the pages
+// (value_page.h) does the rest, and a dialog that is no page exchanges its Values itself. Rows are
+// checked when the table is compiled.
 //
 //   constexpr auto kValues = page_values::MakeTable({
 //       {L"Options", L"ShowHitCount", Bool(false), Check(IDC_SHOW_HIT_COUNT), 2},
@@ -92,6 +93,7 @@ struct Control {
   std::span<const int> boxes{};
   int unit = 1;   ///< The edit of a number shows multiples of this, rounded towards 0 ...
   int usual = 0;  ///< ... and, unless it is 0, this where the stored number is not above 0.
+  std::span<const int> numbers{};  ///< What the radio buttons stand for; empty for their indexes.
 };
 
 /// A check box. A boolean is true exactly when the box is checked; an integer is the box's state.
@@ -106,6 +108,14 @@ constexpr Control FlagCheck(int id) { return {.kind = Kind::kCheck, .id = id, .f
 /// checked button, shown as 0 when it names none; a boolean is true when the index is not 0.
 constexpr Control Radio(int first, int buttons) {
   return {.kind = Kind::kRadio, .id = first, .buttons = buttons};
+}
+/// A group of radio buttons that stand for these integers, in order. Any other integer is shown as
+/// the first of them, and no choice is saved as the first of them.
+constexpr Control RadioOf(int first, std::span<const int> numbers) {
+  return {.kind = Kind::kRadio,
+          .id = first,
+          .buttons = static_cast<int>(numbers.size()),
+          .numbers = numbers};
 }
 /// Two radio buttons for a boolean that is true when the first one is checked.
 constexpr Control InvertedRadio(int first) {
@@ -205,7 +215,7 @@ consteval bool Fits(const Row& row, int index) {
   const Control& control = row.control;
   if (control.id <= 0 || row.stored.defaultRow >= index) return false;
   if (control.inverted && !isBool) return false;
-  if (control.flag && isBool) return false;
+  if ((control.flag || !control.numbers.empty()) && isBool) return false;
   if (control.ranged && control.range.minimum > control.range.maximum) return false;
   constexpr int kGreatest = 0x7FFFFFFF;
   if (control.unit < 1 || (control.unit > 1 && control.range.maximum > kGreatest / control.unit)) {

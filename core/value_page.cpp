@@ -82,14 +82,6 @@ BOOL CValuePage::OnCommand(WPARAM wParam, LPARAM lParam) {
   return handled;
 }
 
-void CValuePage::ApplyEnablingRules() {
-  CDataExchange controls(this, FALSE);
-  for (const EnablingRule& rule : description_.rules) {
-    const BOOL enable = rule.enabled(*this) ? TRUE : FALSE;
-    for (const int id : rule.controls) controls.PrepareCtrl(id)->EnableWindow(enable);
-  }
-}
-
 StoreHandle CValuePage::StoreForExchange() {
   StoreHandle store = GetValueStore();
   if (store == nullptr && description_.withoutStore == WithoutStore::kBlank) {

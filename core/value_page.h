@@ -11,19 +11,8 @@
 #include "controls/custom_combo_box.h"
 #include "controls/separator.h"
 #include "core/config_dialog.h"
+#include "core/enabling_rules.h"
 #include "core/page_values.h"
-
-/// Controls that are enabled exactly while the predicate holds for the page.
-struct EnablingRule {
-  std::span<const int> controls;
-  bool (*enabled)(const CWnd& page) = nullptr;
-};
-
-/// Predicate of an enabling rule: all these check boxes and radio buttons are checked.
-template <int... kIds>
-bool WhenChecked(const CWnd& page) {
-  return (... && (page.IsDlgButtonChecked(kIds) != 0));
-}
 
 /// The id that the combo box keeps with its chosen row; nothing without a choice.
 std::optional<int> ChosenId(const CWnd& page, int combo);
@@ -59,7 +48,7 @@ class CValuePage : public CConfigDialog {
   /// Applies the enabling rules again after a click and after a choice in a combo box.
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
-  void ApplyEnablingRules();
+  void ApplyEnablingRules() { ApplyRules(*this, description_.rules); }
 
   /// The place for control objects of the page's own (DDX_Control). Called in every exchange, with
   /// and without a store, before the values are read.

@@ -50,6 +50,18 @@ int RunEditHistory(Environment& environment) {
   return ShowOrPicture(environment, QStringLiteral("OpenEditHistoryDialog"));
 }
 
+int RunDocuments(Environment& environment) {
+  return ShowOrPicture(environment, QStringLiteral("OpenDocumentSettings"));
+}
+
+int RunArchives(Environment& environment) {
+  return ShowOrPicture(environment, QStringLiteral("OpenArchiveSettings"));
+}
+
+int RunOcr(Environment& environment) {
+  return ShowOrPicture(environment, QStringLiteral("OpenOCRSettings"));
+}
+
 int RunLanguage(Environment& environment) {
   const std::wstring before = LanguageOf(environment);
   const int status = ShowOrPicture(environment, QStringLiteral("OpenLanguageDialog"));

@@ -120,6 +120,9 @@ constexpr Standalone kStandalones[] = {{"ShowMessage", "message"},
                                        {"OpenClearHistoryDialog", "clear-history"},
                                        {"OpenEditHistoryDialog", "edit-history"},
                                        {"OpenLanguageDialog", "language"},
+                                       {"OpenDocumentSettings", "documents"},
+                                       {"OpenArchiveSettings", "archives"},
+                                       {"OpenOCRSettings", "ocr"},
                                        {"OpenCacheSettings", "cache"}};
 
 void AddDialog(Script& script, const Standalone& dialog) {

@@ -48,6 +48,18 @@ BRISQUEL_API Status OpenEditHistoryDialog(HWND parent, const StoreHandle& histor
 /// chosen, for the next start of the application; after 1 it is as it was.
 BRISQUEL_API Status OpenLanguageDialog(const StoreHandle& config);
 
+/// Lets the user choose the formats that searches open as documents. After status 0 `store` holds
+/// the choices and, in its interpreter list, the formats that are enabled; after 1 it is as it was.
+/// What keeps the dialog from opening is shown to the user.
+BRISQUEL_API Status OpenDocumentSettings(const StoreHandle& store);
+
+/// As OpenDocumentSettings, for compressed files and archives.
+BRISQUEL_API Status OpenArchiveSettings(const StoreHandle& store);
+
+/// As OpenDocumentSettings, for the recognition of text in pictures; the interpreter list of
+/// `store` keeps its flags.
+BRISQUEL_API Status OpenOCRSettings(const StoreHandle& store);
+
 /// Lets the user look after the text cache and set its folder, size limit and expiry. After status
 /// 0 `store` holds the limits, and the global master configuration the folder, saved; after 1
 /// `store` is as it was. What the user compacted or deleted stays so.
@@ -61,6 +73,9 @@ struct EntryPoints {
   Status (*OpenClearHistoryDialog)(HWND, CClearHistorySettings*, const StoreHandle&);
   Status (*OpenEditHistoryDialog)(HWND, const StoreHandle&, const StoreHandle&);
   Status (*OpenLanguageDialog)(const StoreHandle&);
+  Status (*OpenDocumentSettings)(const StoreHandle&);
+  Status (*OpenArchiveSettings)(const StoreHandle&);
+  Status (*OpenOCRSettings)(const StoreHandle&);
   Status (*OpenCacheSettings)(const StoreHandle&);
 };
 

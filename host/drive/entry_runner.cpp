@@ -13,6 +13,12 @@ struct Entry {
   BRISQUEL::Status (*call)(const BRISQUEL::EntryPoints&, const Stores&, int page);
 };
 
+/// The entry points that take the configuration alone.
+template <auto kFunction>
+BRISQUEL::Status CallWithConfig(const BRISQUEL::EntryPoints& library, const Stores& stores, int) {
+  return (library.*kFunction)(stores.Handle(kConfig));
+}
+
 constexpr Entry kEntries[] = {
     {"OpenConfigDialog",
      [](const BRISQUEL::EntryPoints& library, const Stores& stores, int page) {
@@ -31,10 +37,11 @@ constexpr Entry kEntries[] = {
        return library.OpenEditHistoryDialog(nullptr, stores.Handle(kHistory),
                                             stores.Handle(kConfig));
      }},
-    {"OpenLanguageDialog", [](const BRISQUEL::EntryPoints& library, const Stores& stores,
-                              int) { return library.OpenLanguageDialog(stores.Handle(kConfig)); }},
-    {"OpenCacheSettings", [](const BRISQUEL::EntryPoints& library, const Stores& stores,
-                             int) { return library.OpenCacheSettings(stores.Handle(kConfig)); }},
+    {"OpenLanguageDialog", &CallWithConfig<&BRISQUEL::EntryPoints::OpenLanguageDialog>},
+    {"OpenDocumentSettings", &CallWithConfig<&BRISQUEL::EntryPoints::OpenDocumentSettings>},
+    {"OpenArchiveSettings", &CallWithConfig<&BRISQUEL::EntryPoints::OpenArchiveSettings>},
+    {"OpenOCRSettings", &CallWithConfig<&BRISQUEL::EntryPoints::OpenOCRSettings>},
+    {"OpenCacheSettings", &CallWithConfig<&BRISQUEL::EntryPoints::OpenCacheSettings>},
 };
 
 }  // namespace

@@ -102,9 +102,9 @@ TEST(Commands, HelpNamesEveryCommandAndStatus) {
   const TemporaryFolder data;
   const Finished help = RunHost(data, {"list", "--help"});
   EXPECT_EQ(help.status, 0);
-  for (const char* part :
-       {"config", "message", "clear-history", "edit-history", "language", "get", "set", "list",
-        "export", "import", "tour", "drive", "--data", "--machine", "--lang-dir", "Exit status"}) {
+  for (const char* part : {"config", "message", "clear-history", "edit-history", "language",
+                           "documents", "archives", "ocr", "get", "set", "list", "export", "import",
+                           "tour", "drive", "--data", "--machine", "--lang-dir", "Exit status"}) {
     EXPECT_TRUE(Mentions(help.output, part)) << part;
   }
 }
@@ -135,8 +135,8 @@ TEST(Commands, TheTourChangesNothingAndFollowsTheResolution) {
   for (const char* dpi : {"96", "192"}) {
     const Finished finished = RunHost(data, {"tour", data / dpi, "--dpi", dpi});
     EXPECT_EQ(finished.status, 0) << finished.errors;
-    for (const char* name :
-         {"main-27-search", "message", "clear-history", "edit-history", "language"}) {
+    for (const char* name : {"main-27-search", "message", "clear-history", "edit-history",
+                             "language", "documents", "archives", "ocr"}) {
       EXPECT_TRUE(std::filesystem::exists(data / dpi + "/" + name + ".png")) << name;
     }
   }

@@ -64,6 +64,7 @@ const BRISQUEL::EntryPoints* BrisquelEntryPoints() {
   static constexpr BRISQUEL::EntryPoints kEntryPoints = {
       &BRISQUEL::OpenConfigDialog,       &BRISQUEL::ShowMessage,
       &BRISQUEL::OpenClearHistoryDialog, &BRISQUEL::OpenEditHistoryDialog,
-      &BRISQUEL::OpenLanguageDialog,     &BRISQUEL::OpenCacheSettings};
+      &BRISQUEL::OpenLanguageDialog,     &BRISQUEL::OpenCacheSettings,
+      &BRISQUEL::OpenSearchFilterList};
   return &kEntryPoints;
 }

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "foundation/exception.h"
-#include "hollerin/hollerin.h"
+#include "core/blank_store.h"
 
 namespace {
 
@@ -91,11 +90,8 @@ void CValuePage::ApplyEnablingRules() {
 }
 
 StoreHandle CValuePage::StoreForExchange() {
-  StoreHandle store = GetValueStore();
-  if (store == nullptr && description_.withoutStore == WithoutStore::kBlank) {
-    ThrowHr(HOLLERIN::CreateBlankConfigDataMgr(&store), L"Creating blank configuration");
-  }
-  return store;
+  const StoreHandle store = GetValueStore();
+  return description_.withoutStore == WithoutStore::kBlank ? StoreOrBlank(store) : store;
 }
 
 void CValuePage::BindHeadings(CDataExchange* exchange) {

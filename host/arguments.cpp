@@ -20,6 +20,7 @@ constexpr Command kCommands[] = {
     {"edit-history", "", 0, 0, " --pictures ", "edit histories as text"},
     {"language", "", 0, 0, " --pictures ", "choose the language of the next start"},
     {"cache", "", 0, 0, " --pictures ", "look after the text cache"},
+    {"filters", "", 0, 0, " --pictures ", "maintain the persistent search filters"},
     {"get", "STORE SECTION KEY", 3, 3, "", "print a value"},
     {"set", "STORE SECTION KEY VALUE", 4, 4, " --type ", "store a value"},
     {"list", "[STORE]", 0, 1, "", "print all values: store, section, key, type, value"},

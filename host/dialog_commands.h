@@ -11,3 +11,4 @@ int RunEditHistory(Environment& environment);
 /// Says when another language takes effect.
 int RunLanguage(Environment& environment);
 int RunCache(Environment& environment);
+int RunFilters(Environment& environment);

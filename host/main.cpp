@@ -32,6 +32,7 @@ constexpr Command kCommands[] = {
     {"edit-history", RunEditHistory, Display::Person},
     {"language", RunLanguage, Display::Person},
     {"cache", RunCache, Display::Person},
+    {"filters", RunFilters, Display::Person},
     {"get", RunGet, Display::None},
     {"set", RunSet, Display::None},
     {"list", RunList, Display::None},

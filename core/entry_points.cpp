@@ -66,6 +66,6 @@ const BRISQUEL::EntryPoints* BrisquelEntryPoints() {
       &BRISQUEL::OpenClearHistoryDialog, &BRISQUEL::OpenEditHistoryDialog,
       &BRISQUEL::OpenLanguageDialog,     &BRISQUEL::OpenDocumentSettings,
       &BRISQUEL::OpenArchiveSettings,    &BRISQUEL::OpenOCRSettings,
-      &BRISQUEL::OpenCacheSettings};
+      &BRISQUEL::OpenCacheSettings,      &BRISQUEL::OpenSearchFilterList};
   return &kEntryPoints;
 }

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "foundation/exception.h"
-#include "hollerin/hollerin.h"
+#include "core/blank_store.h"
 
 namespace {
 
@@ -83,11 +82,8 @@ BOOL CValuePage::OnCommand(WPARAM wParam, LPARAM lParam) {
 }
 
 StoreHandle CValuePage::StoreForExchange() {
-  StoreHandle store = GetValueStore();
-  if (store == nullptr && description_.withoutStore == WithoutStore::kBlank) {
-    ThrowHr(HOLLERIN::CreateBlankConfigDataMgr(&store), L"Creating blank configuration");
-  }
-  return store;
+  const StoreHandle store = GetValueStore();
+  return description_.withoutStore == WithoutStore::kBlank ? StoreOrBlank(store) : store;
 }
 
 void CValuePage::BindHeadings(CDataExchange* exchange) {

@@ -23,6 +23,7 @@ constexpr Command kCommands[] = {
     {"archives", "", 0, 0, " --pictures ", "choose the archive formats to search"},
     {"ocr", "", 0, 0, " --pictures ", "set up the recognition of text in pictures"},
     {"cache", "", 0, 0, " --pictures ", "look after the text cache"},
+    {"filters", "", 0, 0, " --pictures ", "maintain the persistent search filters"},
     {"get", "STORE SECTION KEY", 3, 3, "", "print a value"},
     {"set", "STORE SECTION KEY VALUE", 4, 4, " --type ", "store a value"},
     {"list", "[STORE]", 0, 1, "", "print all values: store, section, key, type, value"},

@@ -17,7 +17,7 @@ int Show(Environment& environment, const QString& entry) {
     environment.Report(error);
     return kExitLibrary;
   }
-  const EntryResult result = entries.Run(entry, environment.GetArguments().page);
+  const EntryResult result = entries.Run(entry, {.page = environment.GetArguments().page});
   if (!result.error.isEmpty()) return kExitLibrary;
   if (!environment.AllSaved()) return kExitFile;
   return result.status == 0 ? kExitDone : kExitNotConfirmed;
@@ -73,4 +73,8 @@ int RunLanguage(Environment& environment) {
 
 int RunCache(Environment& environment) {
   return ShowOrPicture(environment, QStringLiteral("OpenCacheSettings"));
+}
+
+int RunFilters(Environment& environment) {
+  return ShowOrPicture(environment, QStringLiteral("OpenSearchFilterList"));
 }

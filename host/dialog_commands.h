@@ -14,3 +14,4 @@ int RunOcr(Environment& environment);
 /// Says when another language takes effect.
 int RunLanguage(Environment& environment);
 int RunCache(Environment& environment);
+int RunFilters(Environment& environment);

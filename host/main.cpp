@@ -35,6 +35,7 @@ constexpr Command kCommands[] = {
     {"archives", RunArchives, Display::Person},
     {"ocr", RunOcr, Display::Person},
     {"cache", RunCache, Display::Person},
+    {"filters", RunFilters, Display::Person},
     {"get", RunGet, Display::None},
     {"set", RunSet, Display::None},
     {"list", RunList, Display::None},

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kSearchPage = 27;
 constexpr int kShowHitCount = 5096;
+constexpr int kNewSearchFilter = 5007;
 
 // Letters and digits in lower case, everything else one dash.
 QString FileNamePart(const QString& title) {
@@ -113,6 +114,7 @@ class Script {
 struct Standalone {
   const char* entry;
   const char* picture;
+  int opener = 0;  ///< Control that opens the dialog of the picture from the one of the entry.
 };
 
 /// The dialogs beside the main one.
@@ -123,11 +125,15 @@ constexpr Standalone kStandalones[] = {{"ShowMessage", "message"},
                                        {"OpenDocumentSettings", "documents"},
                                        {"OpenArchiveSettings", "archives"},
                                        {"OpenOCRSettings", "ocr"},
-                                       {"OpenCacheSettings", "cache"}};
+                                       {"OpenCacheSettings", "cache"},
+                                       {"OpenSearchFilterList", "search-filters"},
+                                       {"OpenSearchFilterList", "search-filter", kNewSearchFilter}};
 
 void AddDialog(Script& script, const Standalone& dialog) {
   script.Add({{"do", "open"}, {"entry", dialog.entry}});
+  if (dialog.opener != 0) script.Add({{"do", "click"}, {"control", dialog.opener}});
   script.AddShot(QString::fromLatin1(dialog.picture));
+  if (dialog.opener != 0) script.Add({{"do", "key"}, {"key", "Escape"}});
   script.Add({{"do", "key"}, {"key", "Escape"}});
 }
 

@@ -7,8 +7,10 @@
 // exception that a store raises outside the dialog's own error boundaries passes to the caller.
 
 #include <memory>
+#include <vector>
 
 #include "ifc/config_data_mgr.h"
+#include "ifc/load_combo_reg.h"
 
 class CClearHistorySettings;
 
@@ -17,6 +19,7 @@ class CClearHistorySettings;
 namespace BRISQUEL {
 
 using StoreHandle = std::shared_ptr<INTERNAL_IFC::IConfigDataMgr>;
+using HistoryHandle = std::shared_ptr<INTERNAL_IFC::ILoadComboReg>;
 
 /// 0 when the user confirmed, 1 otherwise.
 using Status = std::int32_t;
@@ -65,6 +68,13 @@ BRISQUEL_API Status OpenOCRSettings(const StoreHandle& store);
 /// `store` is as it was. What the user compacted or deleted stays so.
 BRISQUEL_API Status OpenCacheSettings(const StoreHandle& store);
 
+/// Lets the user maintain the persistent search filters. `history` offers earlier folders and may
+/// be empty; the vector is not used. With `active` the filters are shown as active, whatever the
+/// store says. After status 0 `store` holds the filters and whether they are active; after 1 it is
+/// as it was.
+BRISQUEL_API Status OpenSearchFilterList(const StoreHandle& store, const HistoryHandle& history,
+                                         std::vector<CString>* unused, bool active);
+
 /// The exported functions for a caller that loads the library at run time.
 struct EntryPoints {
   Status (*OpenConfigDialog)(HWND, const StoreHandle&, const StoreHandle&, const StoreHandle&,
@@ -77,6 +87,8 @@ struct EntryPoints {
   Status (*OpenArchiveSettings)(const StoreHandle&);
   Status (*OpenOCRSettings)(const StoreHandle&);
   Status (*OpenCacheSettings)(const StoreHandle&);
+  Status (*OpenSearchFilterList)(const StoreHandle&, const HistoryHandle&, std::vector<CString>*,
+                                 bool);
 };
 
 }  // namespace BRISQUEL

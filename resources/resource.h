@@ -39,6 +39,8 @@
 #define IDD_FILE_LIST_PAGE 5543
 #define IDD_UTF8_PAGE 5544
 #define IDD_BOOLEAN_PAGE 5545
+#define IDD_SEARCH_FILTER_LIST 5546
+#define IDD_SEARCH_FILTER 5547
 #define IDD_REGEX_PAGE 5548
 #define IDD_HASH_PAGE 5549
 #define IDD_LOCALIZATION_PAGE 5550
@@ -51,12 +53,18 @@
 #define IDD_FORMATS_OCR 5559
 #define IDD_EDIT_HISTORY 5562
 
-// Images of the resource type PNG: the strips of the page tree in four sizes, and the picture of
-// the message box.
+// Menu of the list of search filters, and its commands.
+#define IDR_SEARCH_FILTER_MENU 5512
+#define IDM_EDIT_SEARCH_FILTER 35004
+#define IDM_DELETE_SEARCH_FILTER 35005
+
+// Images of the resource type PNG: the strips of the page tree in four sizes, and the pictures of
+// the definition of a search filter and of the message box.
 #define IDR_TREE_IMAGES_16 5501
 #define IDR_TREE_IMAGES_24 5502
 #define IDR_TREE_IMAGES_32 5503
 #define IDR_TREE_IMAGES_48 5504
+#define IDR_SEARCH_FILTER_IMAGE 5507
 #define IDR_MESSAGE_IMAGE 5555
 
 // Main configuration dialog.
@@ -211,6 +219,25 @@
 #define IDC_CACHE_ITEMS 5215
 #define IDC_CACHE_SIZE 5216
 #define IDC_CACHE_SIZE_HEADING 5217
+
+// List of search filters.
+#define IDC_NEW_SEARCH_FILTER 5007
+#define IDC_SEARCH_FILTERS 5101
+#define IDC_SEARCH_FILTERS_ACTIVE 5102
+
+// Definition of a search filter.
+#define IDC_FILTER_PATTERN 5005
+#define IDC_FILTER_LOCATION_TYPE 5006
+#define IDC_FILTER_NAME 5012
+#define IDC_FILTER_BROWSE 5030
+#define IDC_FILTER_FOLDERS 5041
+#define IDC_FILTER_EDIT_FOLDERS 5076
+#define IDC_FILTER_NAME_LABEL 5093
+#define IDC_FILTER_PICTURE 5097
+#define IDC_FILTER_EXPLANATION 5098
+#define IDC_FILTER_BY_NAME 5195
+#define IDC_FILTER_NAME_TYPE 5307
+#define IDC_FILTER_BY_LOCATION 5324
 
 // History page.
 #define IDC_MAX_NAVIGATION_HISTORY 5016

@@ -58,6 +58,7 @@ constexpr unsigned kSoundNotFound = 62;
 constexpr unsigned kBrowsingFailed = 64;
 constexpr unsigned kAskRestoreDefaults = 84;
 constexpr unsigned kTranslationFailed = 394;
+constexpr unsigned kAskDeleteFilter = 397;
 constexpr unsigned kAskNewCacheFolder = 476;
 constexpr unsigned kProblemRunningTask = 539;
 constexpr unsigned kErrorOccurred = 540;
@@ -106,6 +107,21 @@ constexpr unsigned kColumnFilterLocation = 67;
 constexpr unsigned kLookingForFilters = 154;
 constexpr unsigned kConvertersFirst = 528;
 constexpr unsigned kFiltersFirst = 529;
+
+// Search filters: the columns of their list, which also has the one of extensions; the kind that
+// file names are not; and the expression types.
+constexpr unsigned kColumnFilterName = 86;
+constexpr unsigned kColumnFilterValue = 87;
+constexpr unsigned kLocation = 279;
+constexpr unsigned kTypeBoolean = 6;
+constexpr unsigned kTypePlain = 7;
+constexpr unsigned kTypeRegex = 8;
+constexpr unsigned kTypeDos = 9;
+constexpr unsigned kTypeHash = 10;
+constexpr unsigned kTypeWord = 11;
+constexpr unsigned kTypeFileList = 12;
+constexpr unsigned kTypeAnyWord = 700;
+constexpr unsigned kTypeAllWords = 780;
 
 // Names of histories; that of file names is the name of their column. The names of three are put
 // together of two texts each.
@@ -165,5 +181,10 @@ constexpr DialogText kCacheDaysName = {5552, 18};
 
 // What stands before an entry of several folders in the history of a look-in combo.
 constexpr DialogText kSeveralFolders = {5547, 10};
+
+// What is told of stored filters that were damaged, and what names the types of a filter.
+constexpr DialogText kFiltersDamaged = {5546, 7};
+constexpr DialogText kFilterNameType = {5547, 11};
+constexpr DialogText kFilterLocationType = {5547, 12};
 
 }  // namespace TextId

@@ -56,8 +56,10 @@
 #define LVS_SHOWSELALWAYS 0x8
 
 // Combo boxes.
+#define CBS_DROPDOWN 0x2
 #define CBS_DROPDOWNLIST 0x3
 #define CBS_OWNERDRAWFIXED 0x10
+#define CBS_AUTOHSCROLL 0x40
 #define CBS_SORT 0x100
 #define CBS_HASSTRINGS 0x200
 

@@ -5,35 +5,53 @@
 #include "host/environment.h"
 #include "host/settings_library.h"
 #include "ifc/clear_history_settings.h"
+#include "quimbly/quimbly.h"
 
 namespace {
 
+constexpr int kUsualHistoryLength = 25;
+
+/// The history of folders; none when it cannot be made.
+BRISQUEL::HistoryHandle LookInHistory(const Stores& stores) {
+  BRISQUEL::HistoryHandle history;
+  TOLLIVER::CreateLoadComboReg(stores.Handle(kHistory), &history);
+  const int length =
+      stores.Get(kConfig).ReadInt(L"Options", L"MaxDropDownHistory", kUsualHistoryLength);
+  if (history != nullptr) {
+    history->SelectList(L"RecentFolders", length >= 0 ? length : kUsualHistoryLength);
+  }
+  return history;
+}
+
 struct Entry {
   const char* name;
-  BRISQUEL::Status (*call)(const BRISQUEL::EntryPoints&, const Stores&, int page);
+  BRISQUEL::Status (*call)(const BRISQUEL::EntryPoints&, const Stores&, const EntryArguments&);
 };
 
 /// The entry points that take the configuration alone.
 template <auto kFunction>
-BRISQUEL::Status CallWithConfig(const BRISQUEL::EntryPoints& library, const Stores& stores, int) {
+BRISQUEL::Status CallWithConfig(const BRISQUEL::EntryPoints& library, const Stores& stores,
+                                const EntryArguments&) {
   return (library.*kFunction)(stores.Handle(kConfig));
 }
 
 constexpr Entry kEntries[] = {
     {"OpenConfigDialog",
-     [](const BRISQUEL::EntryPoints& library, const Stores& stores, int page) {
+     [](const BRISQUEL::EntryPoints& library, const Stores& stores,
+        const EntryArguments& arguments) {
        return library.OpenConfigDialog(nullptr, stores.Handle(kConfig), stores.Handle(kMaster),
-                                       stores.Handle(kHistory), stores.Handle(kFourth), page);
+                                       stores.Handle(kHistory), stores.Handle(kFourth),
+                                       arguments.page);
      }},
     {"ShowMessage", [](const BRISQUEL::EntryPoints& library, const Stores&,
-                       int) { return library.ShowMessage(nullptr); }},
+                       const EntryArguments&) { return library.ShowMessage(nullptr); }},
     {"OpenClearHistoryDialog",
-     [](const BRISQUEL::EntryPoints& library, const Stores& stores, int) {
+     [](const BRISQUEL::EntryPoints& library, const Stores& stores, const EntryArguments&) {
        CClearHistorySettings settings(stores.Handle(kConfig));
        return library.OpenClearHistoryDialog(nullptr, &settings, stores.Handle(kHistory));
      }},
     {"OpenEditHistoryDialog",
-     [](const BRISQUEL::EntryPoints& library, const Stores& stores, int) {
+     [](const BRISQUEL::EntryPoints& library, const Stores& stores, const EntryArguments&) {
        return library.OpenEditHistoryDialog(nullptr, stores.Handle(kHistory),
                                             stores.Handle(kConfig));
      }},
@@ -42,6 +60,12 @@ constexpr Entry kEntries[] = {
     {"OpenArchiveSettings", &CallWithConfig<&BRISQUEL::EntryPoints::OpenArchiveSettings>},
     {"OpenOCRSettings", &CallWithConfig<&BRISQUEL::EntryPoints::OpenOCRSettings>},
     {"OpenCacheSettings", &CallWithConfig<&BRISQUEL::EntryPoints::OpenCacheSettings>},
+    {"OpenSearchFilterList",
+     [](const BRISQUEL::EntryPoints& library, const Stores& stores,
+        const EntryArguments& arguments) {
+       return library.OpenSearchFilterList(stores.Handle(kConfig), LookInHistory(stores), nullptr,
+                                           arguments.active);
+     }},
 };
 
 }  // namespace
@@ -57,21 +81,21 @@ bool EntryRunner::Load(QString& error) {
   return library_ != nullptr;
 }
 
-BRISQUEL::Status EntryRunner::Call(const QString& entry, int page) {
+BRISQUEL::Status EntryRunner::Call(const QString& entry, const EntryArguments& arguments) {
   for (const Entry& known : kEntries) {
     if (entry == QLatin1String(known.name)) {
-      return known.call(*library_, environment_.GetStores(), page);
+      return known.call(*library_, environment_.GetStores(), arguments);
     }
   }
   return E_INVALIDARG;
 }
 
-EntryResult EntryRunner::Run(const QString& entry, int page) {
+EntryResult EntryRunner::Run(const QString& entry, const EntryArguments& arguments) {
   EntryResult result{entry, E_FAIL, {}};
   environment_.GetStores().ArmThrowRule();
   running_ = true;
   try {
-    result.status = Call(entry, page);
+    result.status = Call(entry, arguments);
   } catch (const std::exception& raised) {
     result.error = QString::fromUtf8(raised.what());
   } catch (...) {

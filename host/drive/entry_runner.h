@@ -17,6 +17,12 @@ struct EntryResult {
   QString error;  ///< What was raised instead of a status; empty when nothing was.
 };
 
+/// What is handed to a function beside the stores, as far as it takes it.
+struct EntryArguments {
+  int page = 4;         ///< The page that OpenConfigDialog shows first.
+  bool active = false;  ///< Whether OpenSearchFilterList shows the filters as active.
+};
+
 class EntryRunner {
  public:
   explicit EntryRunner(Environment& environment) : environment_(environment) {}
@@ -28,12 +34,12 @@ class EntryRunner {
 
   /// Calls the function and waits until it returns, then saves the stores as its status says. An
   /// exception that passes out of it becomes the error of the result; E_FAIL is its status then.
-  EntryResult Run(const QString& entry, int page);
+  EntryResult Run(const QString& entry, const EntryArguments& arguments);
   /// Whether a call is under way.
   bool Running() const { return running_; }
 
  private:
-  BRISQUEL::Status Call(const QString& entry, int page);
+  BRISQUEL::Status Call(const QString& entry, const EntryArguments& arguments);
 
   Environment& environment_;
   const BRISQUEL::EntryPoints* library_ = nullptr;

@@ -1,5 +1,6 @@
 #include "host/drive/input.h"
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeySequence>
 #include <QPointer>
@@ -51,6 +52,12 @@ void SendKey(const QPointer<QWindow>& window, QEvent::Type type, int key,
   if (window != nullptr) qt_handleKeyEvent(window, type, key, modifiers, text, false);
 }
 
+/// What a desktop sends behind the press of the menu key.
+void AskForMenu(const QPointer<QWindow>& window) {
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, {});
+  if (window != nullptr) QCoreApplication::sendEvent(window, &event);
+}
+
 QString TextOf(QKeyCombination key) {
   if ((key.keyboardModifiers() & ~Qt::ShiftModifier) != 0) return {};
   for (const KeyText& row : kKeyTexts) {
@@ -71,6 +78,7 @@ void Press(QWidget* widget, QKeyCombination combination, const QString& text) {
     held |= row.modifier;
   }
   SendKey(window, QEvent::KeyPress, combination.key(), all, text);
+  if (combination == QKeyCombination(Qt::Key_Menu)) AskForMenu(window);
   SendKey(window, QEvent::KeyRelease, combination.key(), all, text);
   for (auto row = std::rbegin(kModifiers); row != std::rend(kModifiers); ++row) {
     if (!all.testFlag(row->modifier)) continue;

@@ -33,7 +33,8 @@ const std::vector<Argument> kControlArguments = {{"control", Kind::Integer, fals
 
 const std::vector<Verb>& Verbs() {
   static const std::vector<Verb> verbs = {
-      {"open", {{"entry", Kind::Text}, {"page", Kind::Integer, false}}},
+      {"open",
+       {{"entry", Kind::Text}, {"page", Kind::Integer, false}, {"active", Kind::Bool, false}}},
       {"windows", {}},
       {"controls", {{"template", Kind::Integer, false}}},
       {"get", {}, {}, true},

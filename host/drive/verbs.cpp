@@ -40,12 +40,17 @@ Plan Open(Context& context, const Request& request) {
   if (request.Has("page") && entry != QLatin1String("OpenConfigDialog")) {
     throw RequestError(QStringLiteral("Only OpenConfigDialog has the argument \"page\"."));
   }
+  if (request.Has("active") && entry != QLatin1String("OpenSearchFilterList")) {
+    throw RequestError(QStringLiteral("Only OpenSearchFilterList has the argument \"active\"."));
+  }
   if (context.entries.Running() || context.windows.Top() != nullptr) {
     throw RequestError(QStringLiteral("A dialog is open already."));
   }
   if (QString error; !context.entries.Load(error)) throw RequestError(error);
-  const int page = request.Has("page") ? request.Int("page") : 4;
-  return {[&context, entry, page] { context.returned(context.entries.Run(entry, page)); },
+  EntryArguments arguments;
+  if (request.Has("page")) arguments.page = request.Int("page");
+  if (request.Has("active")) arguments.active = request.arguments["active"].toBool();
+  return {[&context, entry, arguments] { context.returned(context.entries.Run(entry, arguments)); },
           [&context] {
             const QWidget* top = context.entries.Running() ? context.windows.Top() : nullptr;
             return QJsonObject{

@@ -24,7 +24,7 @@ void InitializeUILib(CDynLinkLibrary** slot);
 std::shared_ptr<CFontMgr> GetFontMgr();
 
 /// Numbers of the application image list.
-enum AppImage { kImageBrowse = 4, kImageOpen = 7, kImagePlay = 16 };
+enum AppImage { kImageBrowse = 4, kImageSeveralFolders = 5, kImageOpen = 7, kImagePlay = 16 };
 
 /// The application's small images, in the size for the screen's resolution; lives as long as the
 /// process.

@@ -184,11 +184,10 @@ TEST_F(TextsTest, ControlsLieInsideTheirTemplate) {
 }
 
 TEST_F(TextsTest, ImagesHaveTheSizesThatTheDialogsExpect) {
-  const std::map<UINT, QSize> sizes = {{IDR_TREE_IMAGES_16, {96, 16}},
-                                       {IDR_TREE_IMAGES_24, {144, 24}},
-                                       {IDR_TREE_IMAGES_32, {192, 32}},
-                                       {IDR_TREE_IMAGES_48, {288, 48}},
-                                       {IDR_MESSAGE_IMAGE, {75, 75}}};
+  const std::map<UINT, QSize> sizes = {
+      {IDR_TREE_IMAGES_16, {96, 16}},      {IDR_TREE_IMAGES_24, {144, 24}},
+      {IDR_TREE_IMAGES_32, {192, 32}},     {IDR_TREE_IMAGES_48, {288, 48}},
+      {IDR_SEARCH_FILTER_IMAGE, {48, 48}}, {IDR_MESSAGE_IMAGE, {75, 75}}};
   for (const auto& [id, size] : sizes) {
     const auto data = script_->Data(L"png", id);
     const auto image =

@@ -12,10 +12,17 @@ constexpr std::array<const char*, kStoreCount> kNames = {"config", "master", "hi
 constexpr std::array<const char*, kStoreCount> kFiles = {"config.xml", "master.xml", "history.xml",
                                                          "layout.xml"};
 
-void Copy(INTERNAL_IFC::IConfigDataMgr& from, INTERNAL_IFC::IConfigDataMgr& to) {
-  std::string text;
-  from.SaveToNarrowText(text);
-  to.LoadFromNarrowText(text);
+/// Puts the defaults in where the store has no value of its own: in a new one, and in one that an
+/// earlier version wrote, which knew fewer values.
+void LayUnder(INTERNAL_IFC::IConfigDataMgr& defaults, HOLLERIN::Store& store) {
+  for (const auto& [section, keys] : dynamic_cast<HOLLERIN::Store&>(defaults).GetValues()) {
+    const auto own = store.GetValues().find(section);
+    for (const auto& [key, value] : keys) {
+      if (own == store.GetValues().end() || !own->second.contains(key)) {
+        store.Write(section, key, value);
+      }
+    }
+  }
 }
 
 }  // namespace
@@ -66,7 +73,6 @@ bool Stores::Open(QString& error) {
       error = QStringLiteral("%1 cannot be opened: %2").arg(Path(id), reason);
       return false;
     }
-    loaded_[id] = report.loaded;
     if (report.putAside.empty()) continue;
     damages_ << QStringLiteral("%1 is damaged: %2\nIt was put aside as %3; the defaults are used.")
                     .arg(Path(id), reason, QString::fromStdWString(report.putAside));
@@ -76,20 +82,16 @@ bool Stores::Open(QString& error) {
 
 bool Stores::LayDefaults(bool portable, QString& error) {
   BRISQUEL::StoreHandle defaults;
-  if (!loaded_[kConfig]) {
-    if (FAILED(HOLLERIN::LoadMainDefaultConfiguration(&defaults))) {
-      error = QStringLiteral("The default configuration cannot be loaded.");
-      return false;
-    }
-    Copy(*defaults, *stores_[kConfig]);
+  if (FAILED(HOLLERIN::LoadMainDefaultConfiguration(&defaults))) {
+    error = QStringLiteral("The default configuration cannot be loaded.");
+    return false;
   }
-  if (!loaded_[kMaster]) {
-    if (FAILED(HOLLERIN::CreateDefaultMasterConfiguration(&defaults, portable))) {
-      error = QStringLiteral("The default master configuration cannot be loaded.");
-      return false;
-    }
-    Copy(*defaults, *stores_[kMaster]);
+  LayUnder(*defaults, *stores_[kConfig]);
+  if (FAILED(HOLLERIN::CreateDefaultMasterConfiguration(&defaults, portable))) {
+    error = QStringLiteral("The default master configuration cannot be loaded.");
+    return false;
   }
+  LayUnder(*defaults, *stores_[kMaster]);
   return true;
 }
 

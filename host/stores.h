@@ -33,7 +33,7 @@ class Stores {
   /// Opens the four stores. False with the reason in `error` when one can be neither read nor put
   /// aside. A damaged file is put aside and named in Damages().
   bool Open(QString& error);
-  /// Lays the shipped defaults into those of the config and master stores that were not loaded.
+  /// Gives the config and master stores the shipped default of every value that they do not hold.
   /// False when the defaults cannot be made.
   bool LayDefaults(bool portable, QString& error);
   /// Makes a store raise an exception, as seen by the settings library.
@@ -58,7 +58,6 @@ class Stores {
   QString folder_;
   std::unique_ptr<QLockFile> lock_;
   std::array<std::shared_ptr<HOLLERIN::Store>, kStoreCount> stores_;
-  std::array<bool, kStoreCount> loaded_ = {};
   std::array<std::shared_ptr<ThrowingStore>, kStoreCount> throwing_;
   QStringList damages_;
 };

@@ -9,7 +9,7 @@
 #include "ifc/app_folder_mgr.h"
 #include "ifc/config_data_mgr.h"
 #include "ifc/file_cache_mgr.h"
-#include "ifc/running_status.h"
+#include "ifc/work_progress.h"
 #include "platform/number_format.h"
 
 /// Run as Geometry::CGeometryDynCreateWnd<CCacheSettings>. The folder belongs to the global master

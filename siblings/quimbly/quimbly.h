@@ -10,7 +10,7 @@
 #include "ifc/file_cache_mgr.h"
 #include "ifc/load_combo_reg.h"
 #include "ifc/location_list.h"
-#include "ifc/running_status.h"
+#include "ifc/work_progress.h"
 
 namespace TOLLIVER {
 

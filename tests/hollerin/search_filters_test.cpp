@@ -148,7 +148,9 @@ TEST_F(SearchFilters, IsModifiedTellsWhetherSavingWouldMakeADifference) {
 
 TEST_F(SearchFilters, ADamagedListIsPutAsideAndReported) {
   const auto log = CreateMemoryLog(nullptr);
-  SetUpApplication({.log = log});
+  Application application;
+  application.log = log;
+  SetUpApplication(application);
   const std::wstring whole = FormatSearchFilters({{true, 1, L"a", 4, L"*.a"}});
   std::wstring forged, wrongType, gap;
   store->WriteInt(L"00000000", L"Enabled", 1);

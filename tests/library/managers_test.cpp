@@ -96,7 +96,8 @@ TEST_F(ManagersTest, TheTreeHasItsGroupsAndPagesInOrder) {
     EXPECT_EQ(groups[index]->GetImageIndex(), node.image);
     EXPECT_EQ(groups[index]->GetExtraValue(), 0U);
     EntryList pages;
-    EXPECT_EQ(AsParent(groups[index]).GetChildren(pages), static_cast<int>(pages.size()));
+    const int count = AsParent(groups[index]).GetChildren(pages);
+    EXPECT_EQ(count, static_cast<int>(pages.size()));
     std::vector<std::int32_t> ids;
     for (const EntryHandle& page : pages) {
       // The pages of interpreters have no ids.

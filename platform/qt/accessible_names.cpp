@@ -53,14 +53,22 @@ std::size_t PlaceIn(const Peer& dialog, HWND control) {
   return place;
 }
 
+/// Whether a text ends the search for a name: that of a box, or of a label whose key leads on.
+bool IsFinal(const Peer& control) { return IsInteractive(control) || HasKey(control); }
+
+/// Of the labels right before the place the last one with a key, or else the last one.
 QString TextBefore(const Peer& dialog, std::size_t place) {
+  QString nearest;
   while (place-- > 0) {
     const Peer* before = FindPeer(dialog.children[place].window);
-    if (before == nullptr || !NamesOthers(*before)) continue;
-    const QString text = SpokenText(*before);
-    if (!text.isEmpty()) return text;
+    if (before == nullptr) continue;
+    if (!nearest.isEmpty() && IsInteractive(*before)) break;
+    const QString text = NamesOthers(*before) ? SpokenText(*before) : QString();
+    if (text.isEmpty()) continue;
+    if (IsFinal(*before)) return text;
+    if (nearest.isEmpty()) nearest = text;
   }
-  return TextAroundTheEnd(dialog);
+  return nearest.isEmpty() ? TextAroundTheEnd(dialog) : nearest;
 }
 
 void Name(const Peer& control, const QString& before) {
@@ -92,13 +100,16 @@ void FindBuddy(const Peer& dialog, std::size_t place, const Peer& control, QLabe
 
 void NameControls(const Peer& dialog) {
   QString before = TextAroundTheEnd(dialog);
+  bool keyWaits = false;
   for (std::size_t i = 0; i < dialog.children.size(); ++i) {
     const Peer* control = FindPeer(dialog.children[i].window);
     if (control == nullptr || control->kind == ControlKind::Dialog) continue;
     Name(*control, before);
-    if (NamesOthers(*control)) {
-      const QString text = SpokenText(*control);
-      if (!text.isEmpty()) before = text;
+    if (IsInteractive(*control)) keyWaits = false;
+    const QString text = NamesOthers(*control) ? SpokenText(*control) : QString();
+    if (!text.isEmpty() && (!keyWaits || IsFinal(*control))) {
+      before = text;
+      keyWaits = !IsInteractive(*control) && HasKey(*control);
     }
     if (control->kind == ControlKind::Label)
       if (auto* label = qobject_cast<QLabel*>(control->widget))
@@ -121,7 +132,7 @@ void UpdateNamesAfter(const Peer& changed) {
     const Peer* control = FindPeer(dialog->children[i].window);
     if (control == nullptr) continue;
     Name(*control, TextBefore(*dialog, i));
-    if (NamesOthers(*control) && !SpokenText(*control).isEmpty()) return;
+    if (NamesOthers(*control) && IsFinal(*control) && !SpokenText(*control).isEmpty()) return;
   }
 }
 

@@ -146,9 +146,10 @@ TEST(DisplayAndShellPages, EveryStepOfTheRegistrarMayFail) {
 }
 
 TEST(DisplayAndShellPages, AStoreThatThrowsWhileTheShellIsShownIsLoggedOnly) {
-  // The page reads two values before it writes the flags; the snapshot comes before all of them.
+  // The page reads two values before it writes the flags; the snapshot and the reading of the
+  // interpreter list come before all of them.
   int logged = 0;
-  for (int call = 1; call <= 12; ++call) {
+  for (int call = 1; call <= 14; ++call) {
     const TemporaryFolder data;
     Session session(
         data, {{"registrar", Json::object()}, {"throws", {{"store", "config"}, {"call", call}}}});

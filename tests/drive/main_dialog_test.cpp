@@ -342,7 +342,11 @@ TEST(MainDialog, WithoutALanguageEveryTextSaysSo) {
   Session session(data, {{"language", nullptr}});
   session.Open(27);
   const Json nodes = session.Nodes();
-  for (const Json& node : nodes) EXPECT_EQ(node["title"], kNone);
+  for (const Json& node : nodes) {
+    // The pages of interpreters bear names that no language has.
+    if (node["page"] == -1) continue;
+    EXPECT_EQ(node["title"], kNone);
+  }
   EXPECT_EQ(session.Get(kCaption)["text"], kNone);
   EXPECT_EQ(session.Get(5300)["items"], Json({kNone, kNone, kNone, kNone, kNone}));
   EXPECT_EQ(session.Get(5105)["text"], "{2}");

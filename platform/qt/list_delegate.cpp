@@ -41,6 +41,7 @@ QSize ListDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInd
   row.text.replace(QLatin1Char('\n'), QLatin1Char(' '));
   row.features |= QStyleOptionViewItem::HasDisplay;
   QSize size = view_.style()->sizeFromContents(QStyle::CT_ItemViewItem, &row, QSize(), row.widget);
+  size.rheight() += option.fontMetrics.height() / 4;  // Check boxes shall not touch.
   if (view_.InReport()) {
     size.setWidth(view_.Headings().length());
   } else {

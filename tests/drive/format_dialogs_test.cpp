@@ -46,7 +46,8 @@ void OpenDialog(Session& session, const std::string& entry) {
 /// The labels of the rows; "+" and "-" say whether the box is checked, "?" that there is none.
 Names Rows(Session& session) {
   Names rows;
-  for (const Json& row : session.Do({{"do", "rows"}, {"control", kList}})["rows"]) {
+  const Json reply = session.Do({{"do", "rows"}, {"control", kList}});
+  for (const Json& row : reply["rows"]) {
     const Json& checked = row["checked"];
     const char* box = checked.is_null() ? "?" : checked == true ? "+" : "-";
     rows.push_back(row["text"][0].get<std::string>() + box);
@@ -60,7 +61,8 @@ void Check(Session& session, int row, bool on) {
 
 Json Enabled(Session& session) {
   std::map<std::string, bool> enabled;
-  for (const Json& entry : session.Do({{"do", "interpreters"}})["entries"]) {
+  const Json reply = session.Do({{"do", "interpreters"}});
+  for (const Json& entry : reply["entries"]) {
     enabled[entry["key"]] = entry["enabled"];
   }
   return enabled;

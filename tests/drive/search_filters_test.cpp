@@ -1,5 +1,7 @@
 // The dialogs of the persistent search filters, used over the drive port.
 
+#include <map>
+
 #include "drive/session.h"
 
 namespace {
@@ -42,8 +44,8 @@ class SearchFilterDialogs : public testing::Test {
 };
 
 TEST_F(SearchFilterDialogs, ShowTheFiltersInTheirColumns) {
-  Start({Filter("docs", "*.txt", 1, 4), Filter("home", "/home;/srv", 0, 1, false),
-         Filter("odd", "?", 7, 3)});
+  Start(Json::array({Filter("docs", "*.txt", 1, 4), Filter("home", "/home;/srv", 0, 1, false),
+                     Filter("odd", "?", 7, 3)}));
   EXPECT_EQ(session_.Top()["title"], "Persistent Search Filters");
   const Json list = Do({{"do", "rows"}, {"control", kList}});
   EXPECT_EQ(list["columns"], Json({"Name", "Pattern or folders", "Type"}));
@@ -90,7 +92,7 @@ TEST_F(SearchFilterDialogs, EveryValueOfANewFilterIsStored) {
 }
 
 TEST_F(SearchFilterDialogs, FiltersAreEditedByDoubleClickAndMenu) {
-  Start({Filter("one", "*.1", 1, 4), Filter("two", "*.2", 1, 4, false)});
+  Start(Json::array({Filter("one", "*.1", 1, 4), Filter("two", "*.2", 1, 4, false)}));
   Row(-1, "double");
   EXPECT_EQ(TopTemplate(), kListTemplate) << "below the rows is nothing to edit";
   Check(0, false);
@@ -121,7 +123,7 @@ TEST_F(SearchFilterDialogs, FiltersAreEditedByDoubleClickAndMenu) {
 }
 
 TEST_F(SearchFilterDialogs, TheMenuNeedsARowAndOpensByKey) {
-  Start({Filter("one", "*", 1, 4)});
+  Start(Json::array({Filter("one", "*", 1, 4)}));
   Row(-1, "context");
   for (const Json& item : session_.Top()["items"]) EXPECT_EQ(item["enabled"], false);
   Do({{"do", "dismiss"}});
@@ -136,8 +138,8 @@ TEST_F(SearchFilterDialogs, TheMenuNeedsARowAndOpensByKey) {
 }
 
 TEST_F(SearchFilterDialogs, DeletingAsksFirst) {
-  Start({Filter("one", "*", 1, 4), Filter("tw%so", "*", 1, 4),
-         Filter(std::string(10000, 'x').c_str(), "*", 1, 4)});
+  Start(Json::array({Filter("one", "*", 1, 4), Filter("tw%so", "*", 1, 4),
+                     Filter(std::string(10000, 'x').c_str(), "*", 1, 4)}));
   const auto ask = [this](int row) {
     Row(row, "context");
     Menu(kDelete);
@@ -153,11 +155,11 @@ TEST_F(SearchFilterDialogs, DeletingAsksFirst) {
   Press("Yes");
   EXPECT_EQ(Rows().size(), 1U);
   EXPECT_EQ(session_.End(kOk), 0);
-  EXPECT_EQ(Stored(), Json({Filter("tw%so", "*", 1, 4)}));
+  EXPECT_EQ(Stored(), Json::array({Filter("tw%so", "*", 1, 4)}));
 }
 
 TEST_F(SearchFilterDialogs, CancelPutsEverythingBack) {
-  Start({Filter("one", "*", 1, 4), Filter("two", "*", 1, 4)}, true);
+  Start(Json::array({Filter("one", "*", 1, 4), Filter("two", "*", 1, 4)}), true);
   EXPECT_EQ(session_.Get(kActive)["checked"], 1);
   const Json before = session_.Dump("config");
   Check(0, false);
@@ -178,7 +180,7 @@ TEST_F(SearchFilterDialogs, FoldersAreBrowsedFor) {
   const std::string locked = data_ / "locked";
   std::filesystem::create_directory(locked);
   std::filesystem::permissions(locked, std::filesystem::perms::none);
-  Start({Filter("places", locked.c_str(), 0, 2)});
+  Start(Json::array({Filter("places", locked.c_str(), 0, 2)}));
   Row(0, "double");
   session_.Click(kBrowse);
   EXPECT_EQ(session_.Top()["mode"], "folder");
@@ -187,8 +189,8 @@ TEST_F(SearchFilterDialogs, FoldersAreBrowsedFor) {
   EXPECT_EQ(Text(kFolders), locked);
   session_.Type(kName, "renamed");
   session_.Click(kBrowse);
-  Do({{"do", "choose"}, {"paths", {data_.Path()}}});
-  EXPECT_EQ(Text(kFolders), data_.Path());
+  Do({{"do", "choose"}, {"paths", Json::array({data_.Path().string()})}});
+  EXPECT_EQ(Text(kFolders), data_.Path().string());
   EXPECT_EQ(Text(kName), "renamed");
   EXPECT_EQ(Text(kLocationType), "Regular expression");
 
@@ -198,7 +200,7 @@ TEST_F(SearchFilterDialogs, FoldersAreBrowsedFor) {
   session_.Click(5593);  // Add.
   session_.Click(5598);  // Without its subfolders.
   Do({{"do", "ok"}});
-  const std::string several = std::string(data_.Path()) + ";\"/b;c\"-";
+  const std::string several = data_.Path().string() + ";\"/b;c\"-";
   EXPECT_EQ(Text(kFolders), several);
   session_.Click(kSeveral);
   Do({{"do", "cancel"}});
@@ -209,21 +211,24 @@ TEST_F(SearchFilterDialogs, FoldersAreBrowsedFor) {
   Do({{"do", "cancel"}});
   Do({{"do", "ok"}});
   EXPECT_EQ(session_.End(kOk), 0);
-  EXPECT_EQ(Stored(), Json({Filter("renamed", several.c_str(), 0, 2)}));
+  EXPECT_EQ(Stored(), Json::array({Filter("renamed", several.c_str(), 0, 2)}));
   std::filesystem::permissions(locked, std::filesystem::perms::owner_all);
 }
 
 TEST_F(SearchFilterDialogs, ControlsFollowTheSizeOfTheirDialogs) {
-  Start({Filter("one", "*", 1, 4)});
+  Start(Json::array({Filter("one", "*", 1, 4)}));
   const auto grow = [this](const std::vector<std::pair<int, std::vector<int>>>& changes) {
     std::map<int, Json> before;
     for (const auto& [id, change] : changes) before[id] = session_.Get(id)["rect"];
     const Json size = session_.Top()["client"];
-    Do({{"do", "resize"}, {"width", int(size[0]) + 100}, {"height", int(size[1]) + 40}});
+    Do({{"do", "resize"},
+        {"width", size[0].get<int>() + 100},
+        {"height", size[1].get<int>() + 40}});
     for (const auto& [id, change] : changes) {
       const Json after = session_.Get(id)["rect"];
       for (std::size_t side = 0; side < 4; ++side) {
-        EXPECT_EQ(int(after[side]) - int(before[id][side]), change[side]) << id << " " << side;
+        EXPECT_EQ(after[side].get<int>() - before[id][side].get<int>(), change[side])
+            << id << " " << side;
       }
     }
   };

@@ -54,7 +54,8 @@ int RunAndPrintRatios(int argc, char** argv, const std::vector<RatioGoal>& goals
     const std::string label = goal.subject + " : " + goal.baseline;
     std::printf("%-44s %14.2f %14.2f %8.3f ", label.c_str(), subject / 1000, baseline / 1000,
                 subject / baseline);
-    std::printf(goal.goal > 0 ? "%8.2f\n" : "%8s\n", goal.goal);
+    if (goal.goal > 0) std::printf("%8.2f", goal.goal);
+    std::printf("\n");
   }
   return 0;
 }

@@ -35,7 +35,7 @@ class CountedWriter {
     Tag(end);
   }
 
-  void Text(const std::wstring& text) {
+  void Text(std::wstring_view text) {
     if constexpr (std::is_same_v<Char, wchar_t>) {
       Number(text.size(), ':');
       out_.append(text);
@@ -85,25 +85,33 @@ class CountedReader {
   }
 
   bool Text(std::wstring& text) {
-    std::int64_t length = 0;
-    if (!Number(length, ':') || length < 0 || length > end_ - at_) return false;
-    const Char* const end = at_ + length;
+    std::basic_string_view<Char> held;
+    if (!Held(held)) return false;
     if constexpr (std::is_same_v<Char, wchar_t>) {
-      text.assign(at_, end);
-      at_ = end;
+      text.assign(held);
       return true;
     } else {
-      return Decode(end, text);
+      return Decode(held, text);
     }
   }
 
+  /// The characters of a text as they are held.
+  bool Held(std::basic_string_view<Char>& held) {
+    std::int64_t length = 0;
+    if (!Number(length, ':') || length < 0 || length > end_ - at_) return false;
+    held = {at_, static_cast<std::size_t>(length)};
+    at_ += length;
+    return true;
+  }
+
  private:
-  bool Decode(const Char* end, std::wstring& text) {
-    text.resize(static_cast<std::size_t>(end - at_));
+  static bool Decode(std::basic_string_view<Char> held, std::wstring& text) {
+    text.resize(held.size());
     std::size_t length = 0;
-    while (at_ != end) {
+    const Char* const end = held.data() + held.size();
+    for (const Char* at = held.data(); at != end;) {
       std::uint32_t code = 0;
-      if (!TakeCode(at_, end, code)) return false;
+      if (!TakeCode(at, end, code)) return false;
       text[length++] = static_cast<wchar_t>(code);
     }
     text.resize(length);

@@ -20,7 +20,29 @@ std::vector<InterpreterEntry*> WithoutOwnKey(std::vector<InterpreterEntry>& entr
   return without;
 }
 
+template <class To, class From>
+BasicInterpreter<To> Convert(const BasicInterpreter<From>& from) {
+  return {To(from.name), To(from.key), To(from.extensions), To(from.info), To(from.type),
+          from.enabled,  from.optionA, from.document,       from.optionC};
+}
+
+template <class To, class From>
+std::vector<BasicInterpreter<To>> ConvertAll(const std::vector<BasicInterpreter<From>>& all) {
+  std::vector<BasicInterpreter<To>> result;
+  result.reserve(all.size());
+  for (const auto& one : all) result.push_back(Convert<To>(one));
+  return result;
+}
+
 }  // namespace
+
+std::vector<InterpreterEntry> ToEntries(const std::vector<InterpreterView>& views) {
+  return ConvertAll<std::wstring>(views);
+}
+
+std::vector<InterpreterView> ToViews(const std::vector<InterpreterEntry>& entries) {
+  return ConvertAll<std::wstring_view>(entries);
+}
 
 std::vector<std::wstring> MakeKeysUnique(std::vector<InterpreterEntry>& entries) {
   const std::vector<InterpreterEntry*> without = WithoutOwnKey(entries);

@@ -1,59 +1,65 @@
 #include "hollerin/interpreter_list.h"
 
-#include <string_view>
-#include <unordered_map>
 #include <utility>
 
+#include "hollerin/interpreter_text.h"
+#include "hollerin/key_index.h"
 #include "platform/machine.h"
 
 namespace HOLLERIN {
 namespace {
 
 using INTERNAL_IFC::IConfigInterpreter;
+using INTERNAL_IFC::IConfigInterpreterList;
 using EntryHandle = std::shared_ptr<IConfigInterpreter>;
 
+/// Its texts belong to the list's text, all but extensions that were replaced.
 class CConfigInterpreter : public IConfigInterpreter {
  public:
-  explicit CConfigInterpreter(InterpreterEntry&& entry) : entry_(std::move(entry)) {}
+  explicit CConfigInterpreter(const InterpreterView& entry) : entry_(entry) {}
 
-  std::wstring GetName() override { return entry_.name; }
-  std::wstring GetKey() override { return entry_.key; }
-  std::wstring GetExtensions() override { return entry_.extensions; }
-  std::wstring GetInfoText() override { return entry_.info; }
-  std::wstring GetType() override { return entry_.type; }
+  std::wstring GetName() override { return std::wstring(entry_.name); }
+  std::wstring GetKey() override { return std::wstring(entry_.key); }
+  std::wstring GetExtensions() override { return std::wstring(entry_.extensions); }
+  std::wstring GetInfoText() override { return std::wstring(entry_.info); }
+  std::wstring GetType() override { return std::wstring(entry_.type); }
   bool IsEnabled() override { return entry_.enabled; }
   bool GetOptionA() override { return entry_.optionA; }
   bool IsDocumentFormat() override { return entry_.document; }
   bool GetOptionC() override { return entry_.optionC; }
-  void SetExtensions(const std::wstring& extensions) override { entry_.extensions = extensions; }
+  void SetExtensions(const std::wstring& extensions) override {
+    extensions_ = std::make_unique<const std::wstring>(extensions);
+    entry_.extensions = *extensions_;
+  }
   void SetEnabled(bool enabled) override { entry_.enabled = enabled; }
   void SetOptionA(bool option) override { entry_.optionA = option; }
   void SetDocumentFormat(bool document) override { entry_.document = document; }
   void SetOptionC(bool option) override { entry_.optionC = option; }
 
-  const std::wstring& Key() const { return entry_.key; }
+  const InterpreterView& View() const { return entry_; }
 
  private:
-  InterpreterEntry entry_;
+  InterpreterView entry_;
+  std::unique_ptr<const std::wstring> extensions_;
 };
 
-class CConfigInterpreterList : public INTERNAL_IFC::IConfigInterpreterList {
- public:
-  explicit CConfigInterpreterList(std::vector<InterpreterEntry>&& entries) {
-    entries_.reserve(entries.size());
-    for (InterpreterEntry& entry : entries) {
-      entries_.push_back(std::make_shared<CConfigInterpreter>(std::move(entry)));
-    }
-  }
+/// What the entries share; every handle of an entry keeps all of it alive.
+struct Content {
+  std::wstring text;
+  std::vector<CConfigInterpreter> entries;
+};
 
-  std::int32_t GetCount() override { return static_cast<std::int32_t>(entries_.size()); }
+class CConfigInterpreterList : public IConfigInterpreterList {
+ public:
+  CConfigInterpreterList(std::shared_ptr<Content> content, KeyIndex keys)
+      : content_(std::move(content)), keys_(std::move(keys)) {}
+
+  std::int32_t GetCount() override { return static_cast<std::int32_t>(content_->entries.size()); }
 
   HRESULT FindByKey(const std::wstring& key, EntryHandle& entry) override {
     entry.reset();
     if (GetMachine().Fails(L"FindByKey")) return E_FAIL;
-    if (byKey_.empty()) BuildIndex();
-    const auto found = byKey_.find(key);
-    if (found != byKey_.end()) entry = entries_[found->second];
+    if (const auto place = keys_.Find(key)) entry = Handle(*place);
     return S_OK;
   }
 
@@ -61,42 +67,88 @@ class CConfigInterpreterList : public INTERNAL_IFC::IConfigInterpreterList {
     entry.reset();
     if (GetMachine().Fails(L"GetAt")) return E_FAIL;
     if (index < 0 || index >= GetCount()) return E_INVALIDARG;
-    entry = entries_[static_cast<std::size_t>(index)];
+    entry = Handle(static_cast<std::size_t>(index));
     return S_OK;
   }
 
- private:
-  /// Only lists that are searched need one.
-  void BuildIndex() {
-    byKey_.reserve(entries_.size());
-    for (std::size_t i = 0; i < entries_.size(); ++i) byKey_.try_emplace(entries_[i]->Key(), i);
+  std::vector<InterpreterView> Views() const {
+    std::vector<InterpreterView> views;
+    views.reserve(content_->entries.size());
+    for (const CConfigInterpreter& entry : content_->entries) views.push_back(entry.View());
+    return views;
   }
 
-  std::vector<std::shared_ptr<CConfigInterpreter>> entries_;
-  std::unordered_map<std::wstring_view, std::size_t> byKey_;  ///< Keys are those of the entries.
+ private:
+  EntryHandle Handle(std::size_t place) const { return {content_, &content_->entries[place]}; }
+
+  std::shared_ptr<Content> content_;
+  KeyIndex keys_;
 };
 
-}  // namespace
-
-std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList> MakeInterpreterList(
-    std::vector<InterpreterEntry> entries) {
-  return std::make_shared<CConfigInterpreterList>(std::move(entries));
+/// Nothing when an entry has no key of its own.
+std::optional<KeyIndex> Index(const std::vector<InterpreterView>& views) {
+  KeyIndex keys(views.size());
+  for (std::size_t i = 0; i < views.size(); ++i) {
+    const std::wstring_view key = views[i].key;
+    if (key.empty() || !keys.Add(key, static_cast<std::uint32_t>(i))) return std::nullopt;
+  }
+  return keys;
 }
 
-HRESULT CollectEntries(INTERNAL_IFC::IConfigInterpreterList& list,
-                       std::vector<InterpreterEntry>& entries) {
+/// What any list tells through its operations; nothing when it fails.
+std::optional<std::vector<InterpreterEntry>> AskForEntries(IConfigInterpreterList& list) {
+  std::vector<InterpreterEntry> entries;
   const std::int32_t count = list.GetCount();
-  entries.clear();
-  entries.reserve(count > 0 ? static_cast<std::size_t>(count) : 0);
   for (std::int32_t i = 0; i < count; ++i) {
     EntryHandle entry;
-    if (const HRESULT status = list.GetAt(i, entry); FAILED(status)) return status;
-    if (entry == nullptr) return E_FAIL;
+    if (FAILED(list.GetAt(i, entry)) || entry == nullptr) return std::nullopt;
     entries.push_back({entry->GetName(), entry->GetKey(), entry->GetExtensions(),
                        entry->GetInfoText(), entry->GetType(), entry->IsEnabled(),
                        entry->GetOptionA(), entry->IsDocumentFormat(), entry->GetOptionC()});
   }
-  return S_OK;
+  return entries;
+}
+
+}  // namespace
+
+std::shared_ptr<IConfigInterpreterList> ParseInterpreterList(std::wstring text,
+                                                             std::vector<std::wstring>& changes) {
+  // The views look into the text, which must not move any more.
+  const auto content = std::make_shared<Content>();
+  content->text = std::move(text);
+  const std::optional<std::vector<InterpreterView>> views = ParseInterpreters(content->text);
+  if (!views) return nullptr;
+  std::optional<KeyIndex> keys = Index(*views);
+  if (!keys) {
+    std::vector<InterpreterEntry> entries = ToEntries(*views);
+    changes = MakeKeysUnique(entries);
+    return MakeInterpreterList(entries);
+  }
+  content->entries.reserve(views->size());
+  for (const InterpreterView& view : *views) content->entries.emplace_back(view);
+  return std::make_shared<CConfigInterpreterList>(content, std::move(*keys));
+}
+
+std::shared_ptr<IConfigInterpreterList> MakeInterpreterList(
+    const std::vector<InterpreterEntry>& entries) {
+  std::vector<std::wstring> changes;
+  return ParseInterpreterList(FormatInterpreters(ToViews(entries)), changes);
+}
+
+std::optional<std::wstring> ListText(IConfigInterpreterList& list) {
+  if (const auto* own = dynamic_cast<const CConfigInterpreterList*>(&list)) {
+    return FormatInterpreters(own->Views());
+  }
+  const auto entries = AskForEntries(list);
+  if (!entries) return std::nullopt;
+  return FormatInterpreters(ToViews(*entries));
+}
+
+std::optional<std::vector<InterpreterEntry>> ListEntries(IConfigInterpreterList& list) {
+  if (const auto* own = dynamic_cast<const CConfigInterpreterList*>(&list)) {
+    return ToEntries(own->Views());
+  }
+  return AskForEntries(list);
 }
 
 }  // namespace HOLLERIN

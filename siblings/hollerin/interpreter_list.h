@@ -1,8 +1,10 @@
 #pragma once
 
-// The interpreter list as an object.
+// The interpreter list as an object. It is made from the stored text and keeps it, so that loading
+// and saving a long list copies no entry by itself.
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "hollerin/interpreter_entry.h"
@@ -10,12 +12,21 @@
 
 namespace HOLLERIN {
 
-/// The entries in their order. Where several have one key, FindByKey knows the first.
-std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList> MakeInterpreterList(
-    std::vector<InterpreterEntry> entries);
+/// The list of a stored text. Entries without a key of their own get one (MakeKeysUnique), and
+/// `changes` a sentence for each. Null when the text is damaged.
+std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList> ParseInterpreterList(
+    std::wstring text, std::vector<std::wstring>& changes);
 
-/// What the entries of any list say at the moment; a status below 0 when the list fails.
-HRESULT CollectEntries(INTERNAL_IFC::IConfigInterpreterList& list,
-                       std::vector<InterpreterEntry>& entries);
+/// The list of these entries; as ParseInterpreterList.
+std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList> MakeInterpreterList(
+    const std::vector<InterpreterEntry>& entries);
+
+/// The text to store for what the list, of whatever make, says at the moment; nothing when it fails
+/// to tell.
+std::optional<std::wstring> ListText(INTERNAL_IFC::IConfigInterpreterList& list);
+
+/// What the list says, entry for entry; nothing when it fails to tell.
+std::optional<std::vector<InterpreterEntry>> ListEntries(
+    INTERNAL_IFC::IConfigInterpreterList& list);
 
 }  // namespace HOLLERIN

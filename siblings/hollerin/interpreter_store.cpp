@@ -8,6 +8,7 @@
 #include "hollerin/interpreter_list.h"
 #include "hollerin/interpreter_text.h"
 #include "hollerin/shipped_interpreters.h"
+#include "hollerin/store.h"
 
 namespace HOLLERIN {
 namespace {
@@ -25,6 +26,15 @@ void LogLine(const std::wstring& text) {
 
 std::wstring StoredText(IConfigDataMgr& store) { return store.ReadString(kSection, kList, L""); }
 
+/// Makes `text` the stored one. A long text is handed over where the store can take it.
+void StoreText(IConfigDataMgr& store, std::wstring text) {
+  if (auto* const own = dynamic_cast<ConfigStore*>(&store)) {
+    own->Write(kSection, kList, std::move(text));
+  } else {
+    store.WriteString(kSection, kList, text);
+  }
+}
+
 /// A text that was put aside before is not put aside again.
 void PutAside(IConfigDataMgr& store, const std::wstring& text) {
   for (int number = 1;; ++number) {
@@ -39,45 +49,57 @@ void PutAside(IConfigDataMgr& store, const std::wstring& text) {
   }
 }
 
+std::wstring DefaultText() {
+  const std::vector<InterpreterEntry> entries = DefaultInterpreters();
+  return FormatInterpreters(ToViews(entries));
+}
+
+/// As WriteInterpreters.
+void ReplaceList(IConfigDataMgr& store, std::wstring text) {
+  const std::wstring before = StoredText(store);
+  if (before == text || (before.empty() && text == DefaultText())) return;
+  if (!before.empty() && !IsInterpreterText(before)) PutAside(store, before);
+  StoreText(store, std::move(text));
+}
+
+InterpreterListHandle ReadList(IConfigDataMgr& store) {
+  std::wstring text = StoredText(store);
+  if (text.empty()) return MakeInterpreterList(DefaultInterpreters());
+  std::vector<std::wstring> changes;
+  InterpreterListHandle list = ParseInterpreterList(std::move(text), changes);
+  for (const std::wstring& change : changes) LogLine(change);
+  if (list != nullptr) return list;
+  LogLine(
+      L"The stored list of interpreters is damaged. The default list is used; the damaged one "
+      L"stays where it is until a list is saved, and is put aside then.");
+  return MakeInterpreterList(DefaultInterpreters());
+}
+
 }  // namespace
 
 std::vector<InterpreterEntry> DefaultInterpreters() {
   std::vector<InterpreterEntry> entries = ShippedInterpreters();
-  for (InterpreterEntry& entry : FilterInterpreters(FindDocumentFilters())) {
-    entries.push_back(std::move(entry));
+  for (const InterpreterEntry& entry : FilterInterpreters(FindDocumentFilters())) {
+    entries.push_back(entry);
   }
   return entries;
 }
 
-std::vector<InterpreterEntry> ReadInterpreters(IConfigDataMgr& store) {
-  const std::wstring text = StoredText(store);
-  if (text.empty()) return DefaultInterpreters();
-  std::optional<std::vector<InterpreterEntry>> entries = ParseInterpreters(text);
-  if (!entries) {
-    LogLine(
-        L"The stored list of interpreters is damaged. The default list is used; the damaged one "
-        L"stays where it is until a list is saved, and is put aside then.");
-    return DefaultInterpreters();
-  }
-  for (const std::wstring& change : MakeKeysUnique(*entries)) LogLine(change);
-  return std::move(*entries);
-}
-
 bool HoldsInterpreters(IConfigDataMgr& store) { return !StoredText(store).empty(); }
 
+std::vector<InterpreterEntry> ReadInterpreters(IConfigDataMgr& store) {
+  return ListEntries(*ReadList(store)).value_or(std::vector<InterpreterEntry>());
+}
+
 void WriteInterpreters(IConfigDataMgr& store, const std::vector<InterpreterEntry>& entries) {
-  const std::wstring text = FormatInterpreters(entries);
-  const std::wstring before = StoredText(store);
-  if (before == text || (before.empty() && entries == DefaultInterpreters())) return;
-  if (!before.empty() && !ParseInterpreters(before)) PutAside(store, before);
-  store.WriteString(kSection, kList, text);
+  ReplaceList(store, FormatInterpreters(ToViews(entries)));
 }
 
 HRESULT LoadCurrentConfigInterpreterList(const StoreHandle& store, InterpreterListHandle* list) {
   return Export(L"LoadCurrentConfigInterpreterList", list,
                 [&store]() -> std::optional<InterpreterListHandle> {
                   if (store == nullptr) return std::nullopt;
-                  return MakeInterpreterList(ReadInterpreters(*store));
+                  return ReadList(*store);
                 });
 }
 
@@ -86,9 +108,9 @@ HRESULT SaveConfigInterpreterList(const StoreHandle& store, const InterpreterLis
   if (GetMachine().Fails(L"SaveConfigInterpreterList")) return E_FAIL;
   if (store == nullptr || list == nullptr) return E_FAIL;
   if (!replace && HoldsInterpreters(*store)) return S_FALSE;
-  std::vector<InterpreterEntry> entries;
-  if (const HRESULT status = CollectEntries(*list, entries); FAILED(status)) return status;
-  WriteInterpreters(*store, entries);
+  std::optional<std::wstring> text = ListText(*list);
+  if (!text) return E_FAIL;
+  ReplaceList(*store, std::move(*text));
   return S_OK;
 }
 

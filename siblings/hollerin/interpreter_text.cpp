@@ -1,5 +1,7 @@
 #include "hollerin/interpreter_text.h"
 
+#include <bit>
+
 #include "hollerin/counted_text.h"
 
 namespace HOLLERIN {
@@ -7,45 +9,51 @@ namespace {
 
 constexpr std::wstring_view kMagic = L"INTERPRETERS1";
 
-constexpr std::wstring InterpreterEntry::*kTexts[] = {
-    &InterpreterEntry::name, &InterpreterEntry::key, &InterpreterEntry::extensions,
-    &InterpreterEntry::info, &InterpreterEntry::type};
-constexpr bool InterpreterEntry::*kFlags[] = {
-    &InterpreterEntry::enabled, &InterpreterEntry::optionA, &InterpreterEntry::document,
-    &InterpreterEntry::optionC};
+constexpr std::wstring_view InterpreterView::*kTexts[] = {
+    &InterpreterView::name, &InterpreterView::key, &InterpreterView::extensions,
+    &InterpreterView::info, &InterpreterView::type};
+constexpr bool InterpreterView::*kFlags[] = {&InterpreterView::enabled, &InterpreterView::optionA,
+                                             &InterpreterView::document, &InterpreterView::optionC};
 
 constexpr std::uint64_t kSumStart = 0xCBF29CE484222325U;
 constexpr std::uint64_t kSumFactor = 0x100000001B3U;
 
-std::uint64_t Mix(std::uint64_t sum, std::uint64_t value) { return (sum ^ value) * kSumFactor; }
+/// The product spreads to the top only; turning it lets every bit reach all others in time.
+constexpr std::uint64_t Mix(std::uint64_t sum, std::uint64_t value) {
+  return std::rotl((sum ^ value) * kSumFactor, 29);
+}
 
-/// Each step is reversible in the sum and in the character, so one changed character always
-/// changes the result. Lists can be long: four sums run side by side because a processor would
-/// wait for every step of a single one.
+/// Each step is reversible in the sum and in the two characters that it takes, so one changed
+/// character always changes the result. Lists can be long: four sums run side by side because a
+/// processor would wait for every step of a single one.
 std::uint64_t Checksum(std::wstring_view text) {
   constexpr std::size_t kLanes = 4;
+  constexpr std::size_t kStep = 2 * kLanes;
   std::uint64_t lanes[kLanes] = {kSumStart, kSumStart + 1, kSumStart + 2, kSumStart + 3};
-  const std::size_t whole = text.size() - text.size() % kLanes;
-  for (std::size_t i = 0; i < whole; i += kLanes) {
-    for (std::size_t k = 0; k < kLanes; ++k) lanes[k] = Mix(lanes[k], CodeOf(text[i + k]));
+  const wchar_t* at = text.data();
+  for (std::size_t step = text.size() / kStep; step > 0; --step, at += kStep) {
+    for (std::size_t k = 0; k < kLanes; ++k) {
+      lanes[k] = Mix(lanes[k], CodeOf(at[2 * k]) | std::uint64_t{CodeOf(at[2 * k + 1])} << 32);
+    }
   }
   std::uint64_t sum = Mix(kSumStart, text.size());
-  for (std::size_t i = whole; i < text.size(); ++i) sum = Mix(sum, CodeOf(text[i]));
+  for (std::size_t rest = text.size() % kStep; rest > 0; --rest) sum = Mix(sum, CodeOf(*at++));
   for (const std::uint64_t lane : lanes) sum = Mix(sum, lane);
   return sum;
 }
 
 /// About how long the entry is in the text.
-std::size_t Length(const InterpreterEntry& entry) {
+std::size_t Length(const InterpreterView& entry) {
   constexpr std::size_t kLengthDigits = 6;
   std::size_t length = 1 + std::size(kFlags);
   for (const auto text : kTexts) length += (entry.*text).size() + kLengthDigits;
   return length;
 }
 
-bool ReadEntry(CountedReader<wchar_t>& reader, InterpreterEntry& entry) {
+bool ReadEntry(CountedReader<wchar_t>& reader, InterpreterView& entry) {
+  if (reader.Tag() != L'I') return false;
   for (const auto text : kTexts) {
-    if (!reader.Text(entry.*text)) return false;
+    if (!reader.Held(entry.*text)) return false;
   }
   for (const auto flag : kFlags) {
     const wchar_t digit = reader.Tag();
@@ -55,16 +63,33 @@ bool ReadEntry(CountedReader<wchar_t>& reader, InterpreterEntry& entry) {
   return true;
 }
 
+/// Gives every entry to `take`; false when the text is damaged.
+template <class Take>
+bool ReadAll(std::wstring_view text, Take take) {
+  const std::optional<std::uint64_t> sum = TakeSum(text);
+  if (!sum || *sum != Checksum(text)) return false;
+  if (!text.starts_with(kMagic) || !text.ends_with(L'E')) return false;
+  text.remove_prefix(kMagic.size());
+  text.remove_suffix(1);
+  CountedReader<wchar_t> reader(text);
+  while (!reader.AtEnd()) {
+    InterpreterView entry;
+    if (!ReadEntry(reader, entry)) return false;
+    take(entry);
+  }
+  return true;
+}
+
 }  // namespace
 
-std::wstring FormatInterpreters(const std::vector<InterpreterEntry>& entries) {
+std::wstring FormatInterpreters(const std::vector<InterpreterView>& entries) {
   std::size_t length = kMagic.size() + 1 + kSumLength;
-  for (const InterpreterEntry& entry : entries) length += Length(entry);
+  for (const InterpreterView& entry : entries) length += Length(entry);
   std::wstring out;
   out.reserve(length);
   out = kMagic;
   CountedWriter<wchar_t> writer(out);
-  for (const InterpreterEntry& entry : entries) {
+  for (const InterpreterView& entry : entries) {
     writer.Tag('I');
     for (const auto text : kTexts) writer.Text(entry.*text);
     for (const auto flag : kFlags) writer.Tag(entry.*flag ? '1' : '0');
@@ -74,18 +99,16 @@ std::wstring FormatInterpreters(const std::vector<InterpreterEntry>& entries) {
   return out;
 }
 
-std::optional<std::vector<InterpreterEntry>> ParseInterpreters(std::wstring_view text) {
-  const std::optional<std::uint64_t> sum = TakeSum(text);
-  if (!sum || *sum != Checksum(text)) return std::nullopt;
-  if (!text.starts_with(kMagic) || !text.ends_with(L'E')) return std::nullopt;
-  text.remove_prefix(kMagic.size());
-  text.remove_suffix(1);
-  std::vector<InterpreterEntry> entries;
-  CountedReader<wchar_t> reader(text);
-  while (!reader.AtEnd()) {
-    if (reader.Tag() != L'I' || !ReadEntry(reader, entries.emplace_back())) return std::nullopt;
+std::optional<std::vector<InterpreterView>> ParseInterpreters(std::wstring_view text) {
+  std::vector<InterpreterView> entries;
+  if (!ReadAll(text, [&entries](const auto& entry) { entries.push_back(entry); })) {
+    return std::nullopt;
   }
   return entries;
+}
+
+bool IsInterpreterText(std::wstring_view text) {
+  return ReadAll(text, [](const auto&) {});
 }
 
 }  // namespace HOLLERIN

@@ -17,10 +17,13 @@
 
 namespace HOLLERIN {
 
-std::wstring FormatInterpreters(const std::vector<InterpreterEntry>& entries);
+std::wstring FormatInterpreters(const std::vector<InterpreterView>& entries);
 
-/// The entries in their order, several with one key among them; nothing when the text is damaged:
-/// cut off, or any one character changed, missing or added.
-std::optional<std::vector<InterpreterEntry>> ParseInterpreters(std::wstring_view text);
+/// The entries in their order, several with one key among them, as parts of the text; nothing when
+/// the text is damaged: cut off, or any one character changed, missing or added.
+std::optional<std::vector<InterpreterView>> ParseInterpreters(std::wstring_view text);
+
+/// Whether the text is none that is damaged.
+bool IsInterpreterText(std::wstring_view text);
 
 }  // namespace HOLLERIN

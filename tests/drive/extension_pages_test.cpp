@@ -61,9 +61,8 @@ class ExtensionPages : public testing::Test {
   }
   Json Rows() {
     Json rows = Json::array();
-    for (const Json& row : session_->Do({{"do", "rows"}, {"control", kList}})["rows"]) {
-      rows.push_back(row["text"]);
-    }
+    const Json reply = session_->Do({{"do", "rows"}, {"control", kList}});
+    for (const Json& row : reply["rows"]) rows.push_back(row["text"]);
     return rows;
   }
 
@@ -239,7 +238,7 @@ TEST_F(ExtensionPages, DocumentFiltersAreListedBehindTheFileTypes) {
   };
   EXPECT_EQ(Rows(), expected({doc, x}));
   const Json list = session_->Do({{"do", "rows"}, {"control", kList}});
-  EXPECT_EQ(list["columns"], Json({"Extension", "Filter", "Location"}));
+  EXPECT_EQ(list["columns"], Json({"Type", "Filter", "Location"}));
   EXPECT_EQ(list["widths"], Json({80, 100, 300}));
 
   EXPECT_EQ(session_->Get(kPriority)["index"], 1);

@@ -14,8 +14,8 @@ using namespace HOLLERIN;
 namespace {
 
 void CheckForms(const std::vector<InterpreterEntry>& entries) {
-  const std::wstring text = FormatInterpreters(entries);
-  if (ParseInterpreters(text) != entries) std::abort();
+  const std::wstring text = FormatInterpreters(ToViews(entries));
+  if (ParseInterpreters(text) != ToViews(entries)) std::abort();
   for (const std::size_t length : {text.size() - 1, text.size() / 2, std::size_t{14}}) {
     if (ParseInterpreters(std::wstring_view(text).substr(0, length))) std::abort();
   }
@@ -61,7 +61,7 @@ std::vector<InterpreterEntry> EntriesFrom(std::string_view bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   for (const std::wstring& text : {Narrow(bytes), Wide(bytes)}) {
-    if (const auto entries = ParseInterpreters(text)) CheckForms(*entries);
+    if (const auto entries = ParseInterpreters(text)) CheckForms(ToEntries(*entries));
   }
   CheckForms(EntriesFrom(bytes));
   return 0;

@@ -21,14 +21,17 @@ TEST(InterpreterText, RestoresEverything) {
   for (int i = 0; i < 16384; ++i) long64.extensions += L"ext,";
   const Entries twice = {Named(L"1", L"k"), Named(L"2", L"k"), Named(L"3", L"")};
   for (const Entries& entries : {Entries{}, NastyEntries(), Entries{long64}, twice}) {
-    const auto back = ParseInterpreters(FormatInterpreters(entries));
+    const std::wstring text = FormatInterpreters(ToViews(entries));
+    EXPECT_TRUE(IsInterpreterText(text));
+    const auto back = ParseInterpreters(text);
     ASSERT_TRUE(back);
-    EXPECT_EQ(*back, entries);
+    EXPECT_EQ(ToEntries(*back), entries);
   }
 }
 
 TEST(InterpreterText, FindsEveryCutChangeAndAddition) {
-  const std::wstring text = FormatInterpreters({Named(L"PDF", L"pdf"), Named(L"\u00E4", L"x")});
+  const Entries entries = {Named(L"PDF", L"pdf"), Named(L"\u00E4", L"x")};
+  const std::wstring text = FormatInterpreters(ToViews(entries));
   for (std::size_t i = 0; i < text.size(); ++i) {
     EXPECT_FALSE(ParseInterpreters(text.substr(0, i))) << "cut at " << i;
     EXPECT_FALSE(ParseInterpreters(text.substr(i + 1))) << "begun behind " << i;
@@ -39,7 +42,7 @@ TEST(InterpreterText, FindsEveryCutChangeAndAddition) {
     }
     EXPECT_FALSE(ParseInterpreters(std::wstring(text).insert(i, 1, text[i]))) << "doubled " << i;
   }
-  EXPECT_FALSE(ParseInterpreters(text + text));
+  EXPECT_FALSE(IsInterpreterText(text + text));
 }
 
 TEST(InterpreterKeys, EveryEntryGetsItsOwnAndOwnersKeepTheirs) {

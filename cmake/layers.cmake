@@ -51,5 +51,8 @@ function(brisquel_layer name kind)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_precompile_headers(${name} PRIVATE <QtWidgets>)
     target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS)
+  else()
+    target_precompile_headers(${name} PRIVATE <algorithm> <functional> <map> <memory> <optional>
+                              <span> <string> <string_view> <vector>)
   endif()
 endfunction()

@@ -28,10 +28,10 @@ Entries FourEntries() {
 
 /// Keys of list entries, with a "+" behind those that are enabled.
 Texts Flags(INTERNAL_IFC::IConfigInterpreterList& list) {
-  Entries entries;
-  EXPECT_EQ(HOLLERIN::CollectEntries(list, entries), S_OK);
+  const auto entries = HOLLERIN::ListEntries(list);
+  EXPECT_TRUE(entries.has_value());
   Texts flags;
-  for (const auto& entry : entries) flags.push_back(entry.key + (entry.enabled ? L"+" : L""));
+  for (const auto& entry : entries.value_or(Entries())) flags.push_back(entry.key + (entry.enabled ? L"+" : L""));
   return flags;
 }
 

@@ -213,7 +213,9 @@ TEST_F(SearchFilterEditor, AFailureOfCompletionIsReportedAndTheEditorUsed) {
               }),
               IDOK);
     ASSERT_EQ(messages.size(), wanted ? 1U : 0U);
-    if (wanted) EXPECT_EQ(messages[0].caption, L"Application Error");
+    if (wanted) {
+      EXPECT_EQ(messages[0].caption, L"Application Error");
+    }
     EXPECT_EQ(filter->GetValue(), wanted ? L"/ab" : L"/abb");
   }
 }

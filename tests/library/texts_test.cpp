@@ -62,6 +62,7 @@ Texts ReadTexts() {
     const int number = xml.attributes().value("n").toInt();
     if (xml.name() == QLatin1String("strings")) place = kStrings;
     if (xml.name() == QLatin1String("common")) place = kCommon;
+    if (xml.name() == QLatin1String("menu")) place = number;  // No dialog has such a number.
     if (xml.name() == QLatin1String("dialog")) {
       place = number;
       EXPECT_EQ(texts.count(place), 0u) << "dialog " << place << " stands there twice";
@@ -156,6 +157,16 @@ TEST_F(TextsTest, EveryTextOfTheCodeIsThere) {
       EXPECT_EQ(texts_[dialog].count(number), 1u) << dialog << " text " << number;
     }
   }
+}
+
+TEST_F(TextsTest, EveryMenuItemHasAText) {
+  const auto menu = script_->Menu(IDR_SEARCH_FILTER_MENU, error_);
+  ASSERT_TRUE(menu.has_value() && menu->size() == 1) << error_.reason;
+  std::set<int> placeholders = {Placeholder(menu->front().text)};
+  for (const auto& item : menu->front().children) placeholders.insert(Placeholder(item.text));
+  std::set<int> numbers;
+  for (const auto& [number, text] : texts_[IDR_SEARCH_FILTER_MENU]) numbers.insert(number);
+  EXPECT_EQ(placeholders, numbers);
 }
 
 TEST_F(TextsTest, EveryTooltipHasAText) {

@@ -432,8 +432,10 @@ TEST(MainDialog, AStoreThatThrowsIsReportedAndTheDialogStays) {
       close(true);
       EXPECT_EQ(session.End(kOk), 0) << call;
     }
-    if (!shown) break;
-    ++reported;
+    // What the extensions need when the tree is built is told to the log alone.
+    const Json lines = session.Do({{"do", "log"}})["lines"];
+    if (!shown && lines.empty()) break;
+    if (shown) ++reported;
   }
   // Six values on each page are read and written at least once.
   EXPECT_GE(reported, 24);

@@ -129,8 +129,8 @@ TEST_F(InterpreterLists, ChangesStayInTheObjectUntilItIsSaved) {
 }
 
 TEST_F(InterpreterLists, EntriesAreFoundByKeyAndPlace) {
-  Save({Entry(L"a", L"t"), Entry(L"a*b", L"t"), Entry(L"a", L"second")});
-  EXPECT_TRUE(log_->TakeLines().empty());
+  const Entries entries = {Entry(L"a", L"t"), Entry(L"a*b", L"t"), Entry(L"a", L"second")};
+  store_->WriteString(L"Interpreters", L"List", FormatInterpreters(ToViews(entries)));
   const InterpreterListHandle list = Load();
   EXPECT_EQ(log_->TakeLines().size(), 1U);
   ASSERT_EQ(list->GetCount(), 3);

@@ -8,6 +8,7 @@
 #include "hollerin/hollerin.h"
 #include "hollerin/interpreter_samples.h"
 #include "hollerin/interpreter_store.h"
+#include "hollerin/interpreter_text.h"
 #include "hollerin/shipped_interpreters.h"
 #include "support/fake_machine.h"
 

@@ -71,11 +71,14 @@ class CConfigInterpreterList : public IConfigInterpreterList {
     return S_OK;
   }
 
-  std::vector<InterpreterView> Views() const {
-    std::vector<InterpreterView> views;
-    views.reserve(content_->entries.size());
-    for (const CConfigInterpreter& entry : content_->entries) views.push_back(entry.View());
-    return views;
+  std::wstring Text() const {
+    std::size_t length = 0;
+    for (const CConfigInterpreter& entry : content_->entries) {
+      length += InterpreterLength(entry.View());
+    }
+    InterpreterWriter writer(length);
+    for (const CConfigInterpreter& entry : content_->entries) writer.Add(entry.View());
+    return writer.Finish();
   }
 
  private:
@@ -95,8 +98,27 @@ std::optional<KeyIndex> Index(const std::vector<InterpreterView>& views) {
   return keys;
 }
 
-/// What any list tells through its operations; nothing when it fails.
-std::optional<std::vector<InterpreterEntry>> AskForEntries(IConfigInterpreterList& list) {
+}  // namespace
+
+std::shared_ptr<IConfigInterpreterList> ParseInterpreterList(std::wstring text) {
+  // The views look into the text, which must not move any more.
+  const auto content = std::make_shared<Content>();
+  content->text = std::move(text);
+  const std::optional<std::vector<InterpreterView>> views = ParseInterpreters(content->text);
+  if (!views) return nullptr;
+  std::optional<KeyIndex> keys = Index(*views);
+  if (!keys) return nullptr;
+  content->entries.reserve(views->size());
+  for (const InterpreterView& view : *views) content->entries.emplace_back(view);
+  return std::make_shared<CConfigInterpreterList>(content, std::move(*keys));
+}
+
+std::shared_ptr<IConfigInterpreterList> MakeInterpreterList(std::vector<InterpreterEntry> entries) {
+  MakeKeysUnique(entries);
+  return ParseInterpreterList(FormatInterpreters(ToViews(entries)));
+}
+
+std::optional<std::vector<InterpreterEntry>> ListEntries(IConfigInterpreterList& list) {
   std::vector<InterpreterEntry> entries;
   const std::int32_t count = list.GetCount();
   for (std::int32_t i = 0; i < count; ++i) {
@@ -109,46 +131,13 @@ std::optional<std::vector<InterpreterEntry>> AskForEntries(IConfigInterpreterLis
   return entries;
 }
 
-}  // namespace
-
-std::shared_ptr<IConfigInterpreterList> ParseInterpreterList(std::wstring text,
-                                                             std::vector<std::wstring>& changes) {
-  // The views look into the text, which must not move any more.
-  const auto content = std::make_shared<Content>();
-  content->text = std::move(text);
-  const std::optional<std::vector<InterpreterView>> views = ParseInterpreters(content->text);
-  if (!views) return nullptr;
-  std::optional<KeyIndex> keys = Index(*views);
-  if (!keys) {
-    std::vector<InterpreterEntry> entries = ToEntries(*views);
-    changes = MakeKeysUnique(entries);
-    return MakeInterpreterList(entries);
-  }
-  content->entries.reserve(views->size());
-  for (const InterpreterView& view : *views) content->entries.emplace_back(view);
-  return std::make_shared<CConfigInterpreterList>(content, std::move(*keys));
-}
-
-std::shared_ptr<IConfigInterpreterList> MakeInterpreterList(
-    const std::vector<InterpreterEntry>& entries) {
-  std::vector<std::wstring> changes;
-  return ParseInterpreterList(FormatInterpreters(ToViews(entries)), changes);
-}
-
 std::optional<std::wstring> ListText(IConfigInterpreterList& list) {
   if (const auto* own = dynamic_cast<const CConfigInterpreterList*>(&list)) {
-    return FormatInterpreters(own->Views());
+    return own->Text();
   }
-  const auto entries = AskForEntries(list);
+  const auto entries = ListEntries(list);
   if (!entries) return std::nullopt;
   return FormatInterpreters(ToViews(*entries));
-}
-
-std::optional<std::vector<InterpreterEntry>> ListEntries(IConfigInterpreterList& list) {
-  if (const auto* own = dynamic_cast<const CConfigInterpreterList*>(&list)) {
-    return ToEntries(own->Views());
-  }
-  return AskForEntries(list);
 }
 
 }  // namespace HOLLERIN

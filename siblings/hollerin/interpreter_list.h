@@ -12,14 +12,13 @@
 
 namespace HOLLERIN {
 
-/// The list of a stored text. Entries without a key of their own get one (MakeKeysUnique), and
-/// `changes` a sentence for each. Null when the text is damaged.
-std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList> ParseInterpreterList(
-    std::wstring text, std::vector<std::wstring>& changes);
+/// The list of a stored text; null when the text is damaged, or when an entry has no key of its
+/// own.
+std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList> ParseInterpreterList(std::wstring text);
 
-/// The list of these entries; as ParseInterpreterList.
+/// The list of these entries; those without a key of their own get one (MakeKeysUnique).
 std::shared_ptr<INTERNAL_IFC::IConfigInterpreterList> MakeInterpreterList(
-    const std::vector<InterpreterEntry>& entries);
+    std::vector<InterpreterEntry> entries);
 
 /// The text to store for what the list, of whatever make, says at the moment; nothing when it fails
 /// to tell.

@@ -26,7 +26,18 @@ void LogLine(const std::wstring& text) {
 
 std::wstring StoredText(IConfigDataMgr& store) { return store.ReadString(kSection, kList, L""); }
 
-/// Makes `text` the stored one. A long text is handed over where the store can take it.
+// A list may be long: a store of this library shows its text and takes a new one, where any other
+// store copies both.
+
+/// Whether the store holds a list of which `isSo` is true.
+template <class Predicate>
+bool StoredTextIs(IConfigDataMgr& store, Predicate isSo) {
+  const auto* const own = dynamic_cast<const ConfigStore*>(&store);
+  const std::wstring* const text = own != nullptr ? own->FindText(kSection, kList) : nullptr;
+  return isSo(text != nullptr ? *text : StoredText(store));
+}
+
+/// Makes `text` the stored one.
 void StoreText(IConfigDataMgr& store, std::wstring text) {
   if (auto* const own = dynamic_cast<ConfigStore*>(&store)) {
     own->Write(kSection, kList, std::move(text));
@@ -56,23 +67,15 @@ std::wstring DefaultText() {
 
 /// As WriteInterpreters.
 void ReplaceList(IConfigDataMgr& store, std::wstring text) {
-  const std::wstring before = StoredText(store);
-  if (before == text || (before.empty() && text == DefaultText())) return;
-  if (!before.empty() && !IsInterpreterText(before)) PutAside(store, before);
+  const auto says = [&text](const std::wstring& before) {
+    return before == text || (before.empty() && text == DefaultText());
+  };
+  if (StoredTextIs(store, says)) return;
+  const auto isDamaged = [](const std::wstring& before) {
+    return !before.empty() && !IsInterpreterText(before);
+  };
+  if (StoredTextIs(store, isDamaged)) PutAside(store, StoredText(store));
   StoreText(store, std::move(text));
-}
-
-InterpreterListHandle ReadList(IConfigDataMgr& store) {
-  std::wstring text = StoredText(store);
-  if (text.empty()) return MakeInterpreterList(DefaultInterpreters());
-  std::vector<std::wstring> changes;
-  InterpreterListHandle list = ParseInterpreterList(std::move(text), changes);
-  for (const std::wstring& change : changes) LogLine(change);
-  if (list != nullptr) return list;
-  LogLine(
-      L"The stored list of interpreters is damaged. The default list is used; the damaged one "
-      L"stays where it is until a list is saved, and is put aside then.");
-  return MakeInterpreterList(DefaultInterpreters());
 }
 
 }  // namespace
@@ -85,10 +88,23 @@ std::vector<InterpreterEntry> DefaultInterpreters() {
   return entries;
 }
 
-bool HoldsInterpreters(IConfigDataMgr& store) { return !StoredText(store).empty(); }
+bool HoldsInterpreters(IConfigDataMgr& store) {
+  return StoredTextIs(store, [](const std::wstring& text) { return !text.empty(); });
+}
 
 std::vector<InterpreterEntry> ReadInterpreters(IConfigDataMgr& store) {
-  return ListEntries(*ReadList(store)).value_or(std::vector<InterpreterEntry>());
+  const std::wstring text = StoredText(store);
+  if (text.empty()) return DefaultInterpreters();
+  const std::optional<std::vector<InterpreterView>> views = ParseInterpreters(text);
+  if (!views) {
+    LogLine(
+        L"The stored list of interpreters is damaged. The default list is used; the damaged one "
+        L"stays where it is until a list is saved, and is put aside then.");
+    return DefaultInterpreters();
+  }
+  std::vector<InterpreterEntry> entries = ToEntries(*views);
+  for (const std::wstring& change : MakeKeysUnique(entries)) LogLine(change);
+  return entries;
 }
 
 void WriteInterpreters(IConfigDataMgr& store, const std::vector<InterpreterEntry>& entries) {
@@ -99,7 +115,8 @@ HRESULT LoadCurrentConfigInterpreterList(const StoreHandle& store, InterpreterLi
   return Export(L"LoadCurrentConfigInterpreterList", list,
                 [&store]() -> std::optional<InterpreterListHandle> {
                   if (store == nullptr) return std::nullopt;
-                  return ReadList(*store);
+                  if (auto whole = ParseInterpreterList(StoredText(*store))) return whole;
+                  return MakeInterpreterList(ReadInterpreters(*store));
                 });
 }
 

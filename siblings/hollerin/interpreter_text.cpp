@@ -1,6 +1,7 @@
 #include "hollerin/interpreter_text.h"
 
 #include <bit>
+#include <utility>
 
 #include "hollerin/counted_text.h"
 
@@ -42,12 +43,11 @@ std::uint64_t Checksum(std::wstring_view text) {
   return sum;
 }
 
-/// About how long the entry is in the text.
-std::size_t Length(const InterpreterView& entry) {
-  constexpr std::size_t kLengthDigits = 6;
-  std::size_t length = 1 + std::size(kFlags);
-  for (const auto text : kTexts) length += (entry.*text).size() + kLengthDigits;
-  return length;
+/// Characters of a counted text.
+std::size_t CountedLength(std::size_t length) {
+  std::size_t digits = 1;
+  for (std::size_t rest = length; rest > 9; rest /= 10) ++digits;
+  return digits + 1 + length;
 }
 
 bool ReadEntry(CountedReader<wchar_t>& reader, InterpreterView& entry) {
@@ -82,25 +82,43 @@ bool ReadAll(std::wstring_view text, Take take) {
 
 }  // namespace
 
-std::wstring FormatInterpreters(const std::vector<InterpreterView>& entries) {
-  std::size_t length = kMagic.size() + 1 + kSumLength;
-  for (const InterpreterView& entry : entries) length += Length(entry);
-  std::wstring out;
-  out.reserve(length);
-  out = kMagic;
-  CountedWriter<wchar_t> writer(out);
-  for (const InterpreterView& entry : entries) {
-    writer.Tag('I');
-    for (const auto text : kTexts) writer.Text(entry.*text);
-    for (const auto flag : kFlags) writer.Tag(entry.*flag ? '1' : '0');
-  }
+std::size_t InterpreterLength(const InterpreterView& entry) {
+  std::size_t length = 1 + std::size(kFlags);
+  for (const auto text : kTexts) length += CountedLength((entry.*text).size());
+  return length;
+}
+
+InterpreterWriter::InterpreterWriter(std::size_t length) {
+  text_.reserve(kMagic.size() + length + 1 + kSumLength);
+  text_ = kMagic;
+}
+
+void InterpreterWriter::Add(const InterpreterView& entry) {
+  CountedWriter<wchar_t> writer(text_);
+  writer.Tag('I');
+  for (const auto text : kTexts) writer.Text(entry.*text);
+  for (const auto flag : kFlags) writer.Tag(entry.*flag ? '1' : '0');
+}
+
+std::wstring InterpreterWriter::Finish() {
+  CountedWriter<wchar_t> writer(text_);
   writer.Tag('E');
-  writer.Sum(Checksum(out));
-  return out;
+  writer.Sum(Checksum(text_));
+  return std::move(text_);
+}
+
+std::wstring FormatInterpreters(const std::vector<InterpreterView>& entries) {
+  std::size_t length = 0;
+  for (const InterpreterView& entry : entries) length += InterpreterLength(entry);
+  InterpreterWriter writer(length);
+  for (const InterpreterView& entry : entries) writer.Add(entry);
+  return writer.Finish();
 }
 
 std::optional<std::vector<InterpreterView>> ParseInterpreters(std::wstring_view text) {
+  constexpr std::size_t kUsualLength = 128;
   std::vector<InterpreterView> entries;
+  entries.reserve(text.size() / kUsualLength);
   if (!ReadAll(text, [&entries](const auto& entry) { entries.push_back(entry); })) {
     return std::nullopt;
   }

@@ -17,6 +17,22 @@
 
 namespace HOLLERIN {
 
+/// How long an entry is in the text.
+std::size_t InterpreterLength(const InterpreterView& entry);
+
+/// Makes a text entry by entry.
+class InterpreterWriter {
+ public:
+  /// `length`: that of all entries together.
+  explicit InterpreterWriter(std::size_t length);
+  void Add(const InterpreterView& entry);
+  /// The text; the writer has nothing left.
+  std::wstring Finish();
+
+ private:
+  std::wstring text_;
+};
+
 std::wstring FormatInterpreters(const std::vector<InterpreterView>& entries);
 
 /// The entries in their order, several with one key among them, as parts of the text; nothing when

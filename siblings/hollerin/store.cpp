@@ -33,6 +33,11 @@ const Value* ConfigStore::Find(const std::wstring& section, const std::wstring& 
   return value == values->second.end() ? nullptr : &value->second;
 }
 
+const std::wstring* ConfigStore::FindText(const std::wstring& section,
+                                          const std::wstring& key) const {
+  return std::get_if<std::wstring>(Find(section, key));
+}
+
 bool ConfigStore::ReadBool(const std::wstring& section, const std::wstring& key,
                            bool defaultValue) {
   const Value* const value = Find(section, key);

@@ -39,6 +39,10 @@ class ConfigStore : public Store {
   void Write(const std::wstring& section, const std::wstring& key, Value value) override;
   bool Remove(const std::wstring& section, const std::wstring& key) override;
 
+  /// The value as it is kept, until the store changes; null when there is none, or none that was
+  /// last written as a text.
+  const std::wstring* FindText(const std::wstring& section, const std::wstring& key) const;
+
  private:
   const Value* Find(const std::wstring& section, const std::wstring& key) const;
 

@@ -128,6 +128,25 @@ constexpr Row kConfiguration[] = {
     {L"Options", L"ExcludeSystemHiddenJunctionPoints", 1},
     {L"Options", L"ResolveShortCutFiles", false},
     {L"Options", L"ResolveShortCutFolders", false},
+    // Formats: 2 leaves the choice to the application.
+    {L"Filters", L"AutoManage", 2},
+    {L"Options", L"UseAllDocExtensionTypes", true},
+    {L"Options", L"SearchRawDocData", false},
+    {L"Options", L"ExtractEmbeddedObjects", true},
+    {L"Options", L"UseAllCompressedFileTypes", true},
+    {L"Filters", L"IncludeTextFilters", false},
+    {L"Options", L"IFilterPriority", 0},
+    {L"FileType", L"AutoDetectUTF8", true},
+    {L"Options", L"CacheOCRText", true},
+    {L"Options", L"OCRDetectOrientation", true},
+    {L"Options", L"OCRPDFWithText", false},
+    // The text cache: its size in bytes; policy 1 removes texts after the days.
+    {L"Options", L"MaxTextCacheSize", 52428800},
+    {L"Options", L"CacheExpirePolicy", 1},
+    {L"Options", L"CacheExpireDays", 90},
+    // Search filters.
+    {L"PersistentFilters", L"Active", false},
+    {L"Options", L"EnableLookInAutoComplete", true},
 };
 
 /// A folder beside the program of a portable installation, and elsewhere. Empty leaves it to the

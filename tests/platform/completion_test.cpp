@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QTemporaryDir>
+#include <atomic>
 #include <future>
 
 #include "listening_dialog.h"
@@ -263,18 +264,23 @@ TEST_F(Completion, AFolderThatHangsBlocksNoKey) {
 TEST_F(Completion, AnAnswerForWhatIsTypedNoLongerIsDropped) {
   ScopedMachine machine;
   std::promise<void> gate;
-  machine->folderNames = [open = gate.get_future().share()](const std::wstring& folder) {
-    if (folder.starts_with(L"/hung")) open.wait();
+  std::atomic<int> hanging = 0;
+  machine->folderNames = [&hanging, open = gate.get_future().share()](const std::wstring& folder) {
+    if (folder.starts_with(L"/hung")) {
+      ++hanging;
+      open.wait();
+    }
     return std::vector<std::wstring>{L"in" + folder.substr(1, folder.size() - 2)};
   };
-  for (int hung = 0; hung < 3; ++hung) {
+  const auto hang = [&](int hung) {
     widget_.lineEdit()->selectAll();
     QTest::keyClicks(&widget_, QStringLiteral("/hung%1/").arg(hung));
-  }
+    while (hanging <= hung) ToolkitApplication::ProcessEvents();
+  };
+  for (int hung = 0; hung < 3; ++hung) hang(hung);
   Retype("/fast/");
   EXPECT_EQ(Shown(), QStringList("/fast/infast"));
-  widget_.lineEdit()->selectAll();
-  QTest::keyClicks(&widget_, QStringLiteral("/hung3/"));
+  hang(3);
   widget_.lineEdit()->selectAll();
   QTest::keyClicks(&widget_, QStringLiteral("/last/"));
   ToolkitApplication::ProcessEvents();

@@ -1,5 +1,7 @@
 #include "platform/list_ctrl.h"
 
+#include <QScrollBar>
+
 #include "platform/qt/list_peer.h"
 
 DWORD CListCtrl::SetExtendedStyle(DWORD style) {

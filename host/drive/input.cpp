@@ -54,7 +54,7 @@ void SendKey(const QPointer<QWindow>& window, QEvent::Type type, int key,
 
 /// What a desktop sends behind the press of the menu key.
 void AskForMenu(const QPointer<QWindow>& window) {
-  QContextMenuEvent event(QContextMenuEvent::Keyboard, {});
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
   if (window != nullptr) QCoreApplication::sendEvent(window, &event);
 }
 

@@ -1,6 +1,7 @@
 #include "platform/qt/edit_peer.h"
 
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRegularExpressionValidator>
 #include <algorithm>

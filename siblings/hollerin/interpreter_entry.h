@@ -11,11 +11,11 @@ namespace HOLLERIN {
 /// The members are those of INTERNAL_IFC::IConfigInterpreter; every text may be any text.
 template <class Text>
 struct BasicInterpreter {
-  Text name;
-  Text key;
-  Text extensions;
-  Text info;
-  Text type;
+  Text name{};
+  Text key{};
+  Text extensions{};
+  Text info{};
+  Text type{};
   bool enabled = false;
   bool optionA = false;
   bool document = false;

@@ -48,8 +48,8 @@ class CacheSettings : public testing::Test {
   std::wstring Stored() { return master->ReadString(L"FOLDERS", L"CacheFolder", L"none"); }
   /// What a later run of the application would read.
   std::wstring Saved() {
-    HOLLERIN::OpenReport report;
-    return HOLLERIN::OpenStore(masterFile, report)->ReadString(L"FOLDERS", L"CacheFolder", L"none");
+    HOLLERIN::OpenReport fresh;
+    return HOLLERIN::OpenStore(masterFile, fresh)->ReadString(L"FOLDERS", L"CacheFolder", L"none");
   }
   void Fill(const char* name) {
     TextCache cache;
@@ -75,8 +75,8 @@ class CacheSettings : public testing::Test {
   ScopedMachine machine;
   TemporaryFolder folder;
   std::wstring masterFile = (folder / "master.xml").wstring();
-  HOLLERIN::OpenReport report;
-  std::shared_ptr<HOLLERIN::Store> master = HOLLERIN::OpenStore(masterFile, report);
+  HOLLERIN::OpenReport opened;
+  std::shared_ptr<HOLLERIN::Store> master = HOLLERIN::OpenStore(masterFile, opened);
   std::shared_ptr<RecordingStore> store = std::make_shared<RecordingStore>();
   std::vector<ShownMessage> messages;
 };

@@ -1,5 +1,7 @@
 // The branch of file extensions: lists as text, the pages of interpreters, and the manager.
 
+#include <QLabel>
+
 #include "core/extension_list.h"
 #include "core/tree_builder.h"
 #include "environment.h"

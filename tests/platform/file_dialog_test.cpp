@@ -1,5 +1,7 @@
 #include "platform/file_dialog.h"
 
+#include <QDir>
+#include <QMessageBox>
 #include <QTemporaryDir>
 
 #include "platform/messages.h"

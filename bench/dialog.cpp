@@ -262,8 +262,11 @@ void ShowEveryPlainPage(benchmark::State& state, const Plan& plan, const std::ve
     QTimer::singleShot(0, [&] {
       QTimer::singleShot(0, [&] {
         QWidget* shown = nullptr;
+        auto* tree = dialog.findChild<QTreeWidget*>();
+        int row = 0;
         for (const Plan& content : pages) {
           const auto start = Clock::now();
+          tree->setCurrentItem(tree->topLevelItem(row++));
           if (shown != nullptr) shown->hide();
           shown = new QWidget(&dialog);
           BuildControls(content.page, shown);

@@ -115,6 +115,13 @@ int CComboBox::SetDroppedWidth(UINT width) {
   return peer->DroppedWidth();
 }
 
+BOOL CComboBox::SetCueBanner(const CString& text) {
+  auto* peer = FindPeerAs<ComboPeer>(m_hWnd);
+  if (peer == nullptr) return FALSE;
+  peer->SetCue(ToQt(text.Str()));
+  return TRUE;
+}
+
 int CComboBox::GetDroppedWidth() const {
   const auto* peer = FindPeerAs<ComboPeer>(m_hWnd);
   return peer != nullptr ? peer->DroppedWidth() : CB_ERR;

@@ -69,6 +69,8 @@ class CComboBox : public CWnd {
   int SetDroppedWidth(UINT width);
   int GetDroppedWidth() const;
   BOOL LimitText(int characters);
+  /// Shows a hint in grey while no row is selected and nothing is typed; empty shows none.
+  BOOL SetCueBanner(const CString& text);
 
   /// The selection in the edit part, start in the low word and end in the high word; CB_ERR when
   /// there is no edit part.

@@ -179,6 +179,10 @@ constexpr DialogText kInstanceSingle = {5536, 11};
 /// What names the edit of the days in the dialog of the text cache.
 constexpr DialogText kCacheDaysName = {5552, 18};
 
+// What the box of the recognised language says while no language is selected.
+constexpr DialogText kOcrNoLanguages = {5559, 12};
+constexpr DialogText kOcrSelectLanguage = {5559, 13};
+
 // What stands before an entry of several folders in the history of a look-in combo.
 constexpr DialogText kSeveralFolders = {5547, 10};
 

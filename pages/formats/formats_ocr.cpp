@@ -1,7 +1,9 @@
 #include "pages/formats/formats_ocr.h"
 
 #include "foundation/exception.h"
+#include "foundation/language.h"
 #include "hollerin/hollerin.h"
+#include "resources/text_ids.h"
 
 namespace {
 
@@ -125,6 +127,8 @@ void CFormatsOCR::FillLanguages() {
     const int row = box_.AddString(language->GetDisplayName());
     box_.SetItemData(row, reinterpret_cast<DWORD_PTR>(language.get()));
   }
+  const auto& cue = box_.GetCount() > 0 ? TextId::kOcrSelectLanguage : TextId::kOcrNoLanguages;
+  box_.SetCueBanner(LanguagePlaceholder(cue.dialog, cue.number));
   // The box sorts, so that rows are known only now.
   for (int row = 0; chosen != nullptr && row < box_.GetCount(); ++row) {
     if (LanguageAt(row)->GetCode() != chosen->GetCode()) continue;

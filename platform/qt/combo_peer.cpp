@@ -201,6 +201,14 @@ void ComboPeer::SetLimit(int characters) {
   }
 }
 
+void ComboPeer::SetCue(const QString& text) {
+  if (QLineEdit* edit = Combo().lineEdit()) {
+    edit->setPlaceholderText(text);
+  } else {
+    Combo().setPlaceholderText(text);
+  }
+}
+
 DWORD ComboPeer::EditSelection() const {
   const QLineEdit* edit = Combo().lineEdit();
   if (edit == nullptr) return static_cast<DWORD>(CB_ERR);

@@ -47,6 +47,7 @@ class ComboPeer final : public Peer {
   int DroppedWidth() const;
 
   void SetLimit(int characters);
+  void SetCue(const QString& text);
   DWORD EditSelection() const;
   bool SetEditSelection(int start, int end);
 

@@ -68,11 +68,21 @@ QButtonGroup* MakeGroup(QWidget* parent) {
 }  // namespace
 
 void ArrangeTabOrder(HWND window) {
+  const Peer* peer = FindPeer(window);
   const Peer* top = TopDialog(window);
-  if (top == nullptr) return;
+  if (top == nullptr || peer->widget == nullptr) return;
+  const QWidget* placed = peer->widget;
+  const auto moves = [placed](const QWidget* widget) {
+    return widget == placed || placed->isAncestorOf(widget);
+  };
   std::vector<QWidget*> chain;
   Collect(*top, chain);
-  for (std::size_t i = 1; i < chain.size(); ++i) QWidget::setTabOrder(chain[i - 1], chain[i]);
+  // The chain is a ring, so that what comes first has a place as well: behind the last.
+  QWidget* before = chain.empty() || moves(chain.back()) ? nullptr : chain.back();
+  for (QWidget* widget : chain) {
+    if (before != nullptr && moves(widget)) QWidget::setTabOrder(before, widget);
+    before = widget;
+  }
 }
 
 void ApplyTabStop(const Peer& control) {

@@ -4,8 +4,9 @@
 
 #include "platform/qt/peer.h"
 
-/// Chains the controls of the top-level dialog that holds the window in template order. The
-/// controls of its pages come before its first push button, as a person reads them.
+/// Gives the window, a control or a dialog with its controls, its place among the controls of the
+/// top-level dialog that holds it: template order, with the controls of the pages before the first
+/// push button, as a person reads them. The order of all other controls stays.
 void ArrangeTabOrder(HWND window);
 
 /// Lets Tab stop at the control exactly when its style says so.

@@ -1,5 +1,6 @@
 #include "platform/qt/tree_widget.h"
 
+#include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -27,7 +28,7 @@ class TreeDelegate final : public QStyledItemDelegate {
   explicit TreeDelegate(TreeWidget& tree) : QStyledItemDelegate(&tree), tree_(tree) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    QSize size = TextSize(option, index);
     const auto* peer = PeerOf<TreePeer>(&tree_);
     if (peer != nullptr && peer->ChosenRowHeight() > 0) size.setHeight(peer->ChosenRowHeight());
     return size;
@@ -47,7 +48,32 @@ class TreeDelegate final : public QStyledItemDelegate {
   }
 
  private:
+  /// What the size of a row depends on beside its text.
+  struct Basis {
+    QFont font;
+    QSize image;
+    const QStyle* style = nullptr;
+    bool operator==(const Basis&) const = default;
+  };
+
+  /// The toolkit asks for every row each time it lays the tree out.
+  QSize TextSize(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const Basis basis{option.font, option.decorationSize, tree_.style()};
+    if (basis != basis_) {
+      basis_ = basis;
+      sizes_.clear();
+    }
+    const QString text = index.data().toString();
+    auto size = sizes_.constFind(text);
+    if (size == sizes_.cend()) {
+      size = sizes_.insert(text, QStyledItemDelegate::sizeHint(option, index));
+    }
+    return *size;
+  }
+
   TreeWidget& tree_;
+  mutable Basis basis_;
+  mutable QHash<QString, QSize> sizes_;
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The dialogs that choose formats: the order of what they write, failures on the way, no store.
 
 #include <QAbstractItemView>
+#include <QComboBox>
 
 #include "environment.h"
 #include "history_fixture.h"
@@ -199,13 +200,26 @@ TEST_F(FormatDialogsTest, WithoutAStoreTheDefaultsShow) {
   }
 }
 
-TEST_F(FormatDialogsTest, TheLanguageBoxIsNamedByItsLabel) {
-  const auto act = [] {
-    EXPECT_EQ(WidgetOf(IDD_FORMATS_OCR, IDC_OCR_LANGUAGE)->accessibleName(),
-              "Language of the text");
-    Click(IDD_FORMATS_OCR, IDCANCEL);
+TEST_F(FormatDialogsTest, TheLanguageBoxIsNamedByItsLabelAndSaysWhyItIsEmpty) {
+  const struct {
+    std::vector<OcrLanguage> languages;
+    const char* hint;
+  } cases[] = {
+      {{}, "No language is installed"},
+      {{{L"eng", L"English", false}}, "No language is installed"},
+      {{{L"fra", L"French"}}, "Select a language"},
   };
-  EXPECT_EQ(Run(IDD_FORMATS_OCR, &BRISQUEL::OpenOCRSettings, act), 1);
+  for (const auto& row : cases) {
+    machine->languages = row.languages;
+    const auto act = [&row] {
+      const auto* box = static_cast<QComboBox*>(WidgetOf(IDD_FORMATS_OCR, IDC_OCR_LANGUAGE));
+      EXPECT_EQ(box->accessibleName(), "Language of the text");
+      EXPECT_EQ(box->currentIndex(), -1);
+      EXPECT_EQ(box->placeholderText(), row.hint);
+      Click(IDD_FORMATS_OCR, IDCANCEL);
+    };
+    EXPECT_EQ(Run(IDD_FORMATS_OCR, &BRISQUEL::OpenOCRSettings, act), 1);
+  }
 }
 
 }  // namespace

@@ -31,7 +31,8 @@ Texts Flags(INTERNAL_IFC::IConfigInterpreterList& list) {
   const auto entries = HOLLERIN::ListEntries(list);
   EXPECT_TRUE(entries.has_value());
   Texts flags;
-  for (const auto& entry : entries.value_or(Entries())) flags.push_back(entry.key + (entry.enabled ? L"+" : L""));
+  for (const auto& entry : entries.value_or(Entries()))
+    flags.push_back(entry.key + (entry.enabled ? L"+" : L""));
   return flags;
 }
 

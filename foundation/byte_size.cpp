@@ -12,16 +12,16 @@ constexpr std::int64_t kGigabyte = 0x40000000;
 
 struct Unit {
   int number;
-  double bytes;
   unsigned name;
+  double bytes;
 };
 
 constexpr Unit kUnits[] = {
-    {kUnitBytes, 1, TextId::kBytes},
-    {kUnitKilobytes, 1024, TextId::kKilobytes},
-    {kUnitMegabytes, kMegabyte, TextId::kMegabytes},
-    {kUnitGigabytes, kGigabyte, TextId::kGigabytes},
-    {kUnitTerabytes, 1024.0 * kGigabyte, TextId::kTerabytes},
+    {kUnitBytes, TextId::kBytes, 1},
+    {kUnitKilobytes, TextId::kKilobytes, 1024},
+    {kUnitMegabytes, TextId::kMegabytes, kMegabyte},
+    {kUnitGigabytes, TextId::kGigabytes, kGigabyte},
+    {kUnitTerabytes, TextId::kTerabytes, 1024.0 * kGigabyte},
 };
 
 const Unit* FindUnit(int number) {

@@ -22,7 +22,7 @@ constexpr int kLeast = std::numeric_limits<int>::min();
 // An object with letters as its keys.
 Shape::Check Drives() {
   return [folders = Shape::MapOf(Shape::Text())](const QJsonValue& value) {
-    const QString problem = folders(value);
+    QString problem = folders(value);
     if (!problem.isEmpty()) return problem;
     for (const QString& drive : value.toObject().keys()) {
       const bool letter = drive.size() == 1 && drive.toUpper() >= "A" && drive.toUpper() <= "Z";
@@ -115,7 +115,7 @@ std::optional<std::map<wchar_t, std::wstring>> ToDrives(const QJsonValue& json) 
 std::optional<std::vector<EditorFact>> ToEditors(const QJsonValue& json) {
   if (json.isUndefined()) return std::nullopt;
   std::vector<EditorFact> editors;
-  for (const QJsonValue& editor : json.toArray()) {
+  for (const QJsonValue editor : json.toArray()) {
     editors.push_back({editor["name"].toString().toStdWString(), editor["default"].toBool()});
   }
   return editors;
@@ -124,14 +124,14 @@ std::optional<std::vector<EditorFact>> ToEditors(const QJsonValue& json) {
 std::optional<std::vector<std::wstring>> ToList(const QJsonValue& json) {
   if (json.isUndefined()) return std::nullopt;
   std::vector<std::wstring> texts;
-  for (const QJsonValue& text : json.toArray()) texts.push_back(text.toString().toStdWString());
+  for (const QJsonValue text : json.toArray()) texts.push_back(text.toString().toStdWString());
   return texts;
 }
 
 std::optional<std::vector<DocumentFilter>> ToFilters(const QJsonValue& json) {
   if (json.isUndefined()) return std::nullopt;
   std::vector<DocumentFilter> filters;
-  for (const QJsonValue& filter : json.toArray()) {
+  for (const QJsonValue filter : json.toArray()) {
     filters.push_back({filter["extension"].toString().toStdWString(),
                        filter["name"].toString().toStdWString(),
                        filter["location"].toString().toStdWString(), L"", filter["text"].toBool()});
@@ -143,7 +143,7 @@ std::optional<std::vector<DocumentFilter>> ToFilters(const QJsonValue& json) {
 std::optional<std::vector<OcrLanguage>> ToLanguages(const QJsonValue& json) {
   if (!json.isArray()) return std::nullopt;
   std::vector<OcrLanguage> languages;
-  for (const QJsonValue& language : json.toArray()) {
+  for (const QJsonValue language : json.toArray()) {
     const std::wstring code = language["code"].toString().toStdWString();
     const QJsonValue name = language["name"];
     languages.push_back({code, name.isString() ? name.toString().toStdWString() : code,
@@ -213,7 +213,7 @@ void MachineFile::Take(const QJsonObject& facts) {
   } else if (language.isString()) {
     language_.emplace(language.toString().toStdWString());
   }
-  for (const QJsonValue& name : facts["fails"].toArray()) {
+  for (const QJsonValue name : facts["fails"].toArray()) {
     fails_.insert(name.toString().toStdWString());
   }
   if (facts["cache"] == "fails") fails_.insert(L"CreateCacheMgr");

@@ -91,7 +91,7 @@ class Script {
   void InsertPages(const QJsonArray& nodes) {
     std::deque<QJsonObject> pages;
     QSet<int> seen;
-    for (const QJsonValue& node : nodes) {
+    for (const QJsonValue node : nodes) {
       const int page = node["page"].toInt();
       if (seen.contains(page)) continue;
       seen.insert(page);

@@ -6,15 +6,11 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace {
-
-bool MayBeRun(const std::string& path) {
+bool IsProgram(const std::string& path) {
   struct stat facts = {};
   return stat(path.c_str(), &facts) == 0 && S_ISREG(facts.st_mode) &&
          access(path.c_str(), X_OK) == 0;
 }
-
-}  // namespace
 
 std::optional<std::string> FindProgram(std::string_view name) {
   const char* const variable = std::getenv("PATH");
@@ -26,7 +22,7 @@ std::optional<std::string> FindProgram(std::string_view name) {
     if (!path.starts_with('/')) continue;
     if (!path.ends_with('/')) path += '/';
     path += name;
-    if (MayBeRun(path)) return path;
+    if (IsProgram(path)) return path;
   }
   return std::nullopt;
 }

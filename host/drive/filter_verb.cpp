@@ -58,7 +58,7 @@ void WriteFilters(HOLLERIN::Store& store, const QJsonValue& filters) {
         QStringLiteral("The argument \"set\" is no list of filters: %1.").arg(problem));
   }
   std::vector<SearchFilterValues> values;
-  for (const QJsonValue& filter : filters.toArray()) values.push_back(ToFilter(filter.toObject()));
+  for (const auto& filter : filters.toArray()) values.push_back(ToFilter(filter.toObject()));
   store.WriteString(HOLLERIN::kSearchFilterSection, HOLLERIN::kSearchFilterListKey,
                     HOLLERIN::FormatSearchFilters(values));
 }

@@ -39,7 +39,7 @@ std::vector<InterpreterEntry> ToEntries(const QJsonValue& json) {
         QStringLiteral("The argument \"set\" is no list of interpreters: %1.").arg(problem));
   }
   std::vector<InterpreterEntry> entries;
-  for (const QJsonValue& object : json.toArray()) {
+  for (const QJsonValue object : json.toArray()) {
     InterpreterEntry& entry = entries.emplace_back();
     for (const auto& [name, member] : kTexts) {
       entry.*member = object[QLatin1String(name)].toString().toStdWString();

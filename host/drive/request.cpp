@@ -192,16 +192,16 @@ QString CheckArguments(const Request& request, const Verb& verb) {
   QStringList names;
   for (const Argument& argument : known) {
     names << QLatin1String(argument.name);
-    if (const QString error = CheckArgument(request, argument); !error.isEmpty()) return error;
+    if (QString error = CheckArgument(request, argument); !error.isEmpty()) return error;
   }
   for (const QString& name : request.arguments.keys()) {
     if (names.contains(name)) continue;
     return QStringLiteral("The verb %1 has no argument %2; it has %3.")
         .arg(Quoted(request.verb), Quoted(name), NearCandidates(name, names));
   }
-  if (const QString error = CheckOneOf(request, oneOf); !error.isEmpty()) return error;
+  if (QString error = CheckOneOf(request, oneOf); !error.isEmpty()) return error;
   if (verb.addressesControl) {
-    if (const QString error = CheckOneOf(request, {"control", "nth"}); !error.isEmpty())
+    if (QString error = CheckOneOf(request, {"control", "nth"}); !error.isEmpty())
       return error;
   }
   return CheckTypedValue(request);
@@ -229,7 +229,7 @@ int Distance(const QString& a, const QString& b) {
 
 QStringList Request::Texts(const char* name) const {
   QStringList texts;
-  for (const QJsonValue& item : arguments[QLatin1String(name)].toArray()) texts << item.toString();
+  for (const auto& item : arguments[QLatin1String(name)].toArray()) texts << item.toString();
   return texts;
 }
 

@@ -27,7 +27,7 @@ namespace {
 
 using Context = DriveContext;
 
-Plan Reply(QJsonObject fields) {
+Plan Reply(const QJsonObject& fields) {
   return {{}, [fields] { return fields; }};
 }
 

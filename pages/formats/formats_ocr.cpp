@@ -62,9 +62,10 @@ std::vector<std::wstring> Split(const std::wstring& types) {
   std::vector<std::wstring> keys;
   if (types == kNoTypes) return keys;
   std::size_t first = 0;
-  for (std::size_t end; (end = types.find(kBetweenKeys, first)) != std::wstring::npos;
-       first = end + 1) {
+  for (std::size_t end = types.find(kBetweenKeys); end != std::wstring::npos;
+       end = types.find(kBetweenKeys, first)) {
     keys.push_back(types.substr(first, end - first));
+    first = end + 1;
   }
   keys.push_back(types.substr(first));
   return keys;

@@ -63,7 +63,7 @@ QString TextBefore(const Peer& dialog, std::size_t place) {
     const Peer* before = FindPeer(dialog.children[place].window);
     if (before == nullptr) continue;
     if (!nearest.isEmpty() && IsInteractive(*before)) break;
-    const QString text = NamesOthers(*before) ? SpokenText(*before) : QString();
+    QString text = NamesOthers(*before) ? SpokenText(*before) : QString();
     if (text.isEmpty()) continue;
     if (IsFinal(*before)) return text;
     if (nearest.isEmpty()) nearest = text;
@@ -106,7 +106,7 @@ void NameControls(const Peer& dialog) {
     if (control == nullptr || control->kind == ControlKind::Dialog) continue;
     Name(*control, before);
     if (IsInteractive(*control)) keyWaits = false;
-    const QString text = NamesOthers(*control) ? SpokenText(*control) : QString();
+    QString text = NamesOthers(*control) ? SpokenText(*control) : QString();
     if (!text.isEmpty() && (!keyWaits || IsFinal(*control))) {
       before = text;
       keyWaits = !IsInteractive(*control) && HasKey(*control);

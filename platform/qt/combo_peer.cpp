@@ -103,8 +103,9 @@ LRESULT ComboPeer::DefaultProcedure(UINT message, WPARAM wParam, LPARAM lParam) 
       return static_cast<std::int32_t>(selection);
     }
     case CB_SETEDITSEL: {
-      const CSize range(static_cast<DWORD>(lParam));  // Two signed halves.
-      return SetEditSelection(range.cx, range.cy) ? TRUE : CB_ERR;
+      const auto start = static_cast<std::int16_t>(LOWORD(lParam));
+      const auto end = static_cast<std::int16_t>(HIWORD(lParam));
+      return SetEditSelection(start, end) ? TRUE : CB_ERR;
     }
     case CB_FINDSTRINGEXACT:
       return FindExact(static_cast<int>(wParam), ToQt(reinterpret_cast<const wchar_t*>(lParam)));
@@ -201,11 +202,11 @@ void ComboPeer::SetLimit(int characters) {
   }
 }
 
-void ComboPeer::SetCue(const QString& text) {
+void ComboPeer::SetCue(const QString& cue) {
   if (QLineEdit* edit = Combo().lineEdit()) {
-    edit->setPlaceholderText(text);
+    edit->setPlaceholderText(cue);
   } else {
-    Combo().setPlaceholderText(text);
+    Combo().setPlaceholderText(cue);
   }
 }
 

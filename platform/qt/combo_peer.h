@@ -47,7 +47,7 @@ class ComboPeer final : public Peer {
   int DroppedWidth() const;
 
   void SetLimit(int characters);
-  void SetCue(const QString& text);
+  void SetCue(const QString& cue);
   DWORD EditSelection() const;
   bool SetEditSelection(int start, int end);
 

@@ -189,6 +189,7 @@ std::vector<OcrLanguage> FindOcrLanguages() {
   }
   for (const wchar_t* other : kOtherData) languages.erase(other);
   std::vector<OcrLanguage> result;
+  result.reserve(languages.size());
   for (auto& [code, language] : languages) result.push_back(std::move(language));
   return result;
 }

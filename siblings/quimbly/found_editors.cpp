@@ -1,15 +1,12 @@
 #include "quimbly/found_editors.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <set>
-#include <sstream>
 
+#include "platform/find_program.h"
 #include "platform/text.h"
 #include "platform/user_folder.h"
 #include "quimbly/desktop_entry.h"
@@ -48,21 +45,10 @@ struct Candidate {
   std::string program;
 };
 
-bool IsProgram(const std::string& path) {
-  struct stat status {};
-  return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
-         access(path.c_str(), X_OK) == 0;
-}
-
 /// Whether a path, or a name looked for in the search path, leads to a program.
 bool CanRun(const std::string& program) {
-  if (program.find('/') != program.npos) return program.front() == '/' && IsProgram(program);
-  const char* path = std::getenv("PATH");
-  std::istringstream folders(path != nullptr ? path : "");
-  for (std::string folder; std::getline(folders, folder, ':');) {
-    if (folder.starts_with('/') && IsProgram(folder + '/' + program)) return true;
-  }
-  return false;
+  if (program.find('/') == program.npos) return FindProgram(program).has_value();
+  return program.front() == '/' && IsProgram(program);
 }
 
 /// The locale of texts, by the environment.
@@ -143,6 +129,7 @@ std::vector<FoundEditor> FindEditors() {
   AddKnownPrograms(candidates);
   MakeNamesUnique(candidates);
   std::vector<FoundEditor> editors;
+  editors.reserve(candidates.size());
   for (Candidate& candidate : candidates) editors.push_back(std::move(candidate.editor));
   return editors;
 }

@@ -59,8 +59,8 @@ class CLoadComboReg final : public INTERNAL_IFC::ILoadComboReg {
     if (GetMachine().Fails(L"Fill")) return E_FAIL;
     std::vector<CString> rows;
     for (const CString& entry : ReadSection(kLookInHistory, kMostLookIn)) {
-      CString row = shown(entry);
-      rows.push_back(labelled ? std::move(row) : entry);
+      const CString row = shown(entry);
+      rows.push_back(labelled ? row : entry);
     }
     FillRows(*combo, rows);
     const int count = static_cast<int>(rows.size());

@@ -2,8 +2,10 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <algorithm>
 
 #include "platform/qt/control_parts.h"
 #include "platform/qt/list_delegate.h"
@@ -12,6 +14,12 @@
 namespace {
 
 constexpr int kLeastColumnWidth = 8;
+
+bool IsMove(int key) {
+  constexpr int kMoves[] = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
+                            Qt::Key_Home, Qt::Key_End,  Qt::Key_Left,   Qt::Key_Right};
+  return std::ranges::find(kMoves, key) != std::end(kMoves);
+}
 
 }  // namespace
 
@@ -152,7 +160,12 @@ void ListView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Space && rows_->HasCheckBoxes() && currentIndex().isValid()) {
     return ToggleAtFocus();
   }
+  const QPointer<ListView> alive = this;
+  const bool moves = event->modifiers() == Qt::NoModifier && IsMove(event->key());
   QListView::keyPressEvent(event);
+  // A key that leads no further selects where it stands, so that the only row can be selected.
+  if (alive == nullptr || !moves || selectionModel()->hasSelection()) return;
+  selectionModel()->select(currentIndex(), QItemSelectionModel::Select);
 }
 
 void ListView::ToggleAtFocus() {

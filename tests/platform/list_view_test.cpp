@@ -166,6 +166,19 @@ TEST(ListView, ChecksByClickBySpaceAndByProgram) {
   EXPECT_EQ(dialog.Checked(), Numbers{});
 }
 
+TEST(ListView, AKeyThatLeadsNoFurtherSelectsTheOnlyRow) {
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp}) {
+    ListViewDialog dialog(kReport | LVS_SINGLESEL, 1);
+    dialog.Press(key, Qt::ControlModifier);
+    EXPECT_EQ(dialog.Selected(), Numbers{}) << key;
+    dialog.Press(key);
+    EXPECT_EQ(dialog.Selected(), Numbers{0}) << key;
+    dialog.list.DeleteAllItems();
+    dialog.Press(key);
+    EXPECT_EQ(dialog.Selected(), Numbers{}) << key;
+  }
+}
+
 TEST(ListView, SelectsOneRowOrMany) {
   const struct {
     DWORD style;

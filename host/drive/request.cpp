@@ -201,8 +201,7 @@ QString CheckArguments(const Request& request, const Verb& verb) {
   }
   if (QString error = CheckOneOf(request, oneOf); !error.isEmpty()) return error;
   if (verb.addressesControl) {
-    if (QString error = CheckOneOf(request, {"control", "nth"}); !error.isEmpty())
-      return error;
+    if (QString error = CheckOneOf(request, {"control", "nth"}); !error.isEmpty()) return error;
   }
   return CheckTypedValue(request);
 }

@@ -109,6 +109,7 @@ void ListView::dataChanged(const QModelIndex& from, const QModelIndex& to,
   }
   // In these cases no size has changed, and the list need not be laid out anew.
   const bool sameSizes = report_ || roles == QList<int>{Qt::CheckStateRole};
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the list's own would lay it out.
   if (sameSizes) return QAbstractItemView::dataChanged(from, to, roles);
   QListView::dataChanged(from, to, roles);
 }

@@ -89,10 +89,10 @@ class CConfigInterpreterList : public IConfigInterpreterList {
 };
 
 /// Nothing when an entry has no key of its own.
-std::optional<KeyIndex> Index(const std::vector<InterpreterView>& views) {
-  KeyIndex keys(views.size());
-  for (std::size_t i = 0; i < views.size(); ++i) {
-    const std::wstring_view key = views[i].key;
+std::optional<KeyIndex> Index(const std::vector<CConfigInterpreter>& entries) {
+  KeyIndex keys(entries.size());
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const std::wstring_view key = entries[i].View().key;
     if (key.empty() || !keys.Add(key, static_cast<std::uint32_t>(i))) return std::nullopt;
   }
   return keys;
@@ -104,12 +104,12 @@ std::shared_ptr<IConfigInterpreterList> ParseInterpreterList(std::wstring text) 
   // The views look into the text, which must not move any more.
   const auto content = std::make_shared<Content>();
   content->text = std::move(text);
-  const std::optional<std::vector<InterpreterView>> views = ParseInterpreters(content->text);
-  if (!views) return nullptr;
-  std::optional<KeyIndex> keys = Index(*views);
+  std::vector<CConfigInterpreter>& entries = content->entries;
+  entries.reserve(UsualCount(content->text.size()));
+  const auto add = [&entries](const InterpreterView& view) { entries.emplace_back(view); };
+  if (!VisitInterpreters(content->text, add)) return nullptr;
+  std::optional<KeyIndex> keys = Index(entries);
   if (!keys) return nullptr;
-  content->entries.reserve(views->size());
-  for (const InterpreterView& view : *views) content->entries.emplace_back(view);
   return std::make_shared<CConfigInterpreterList>(content, std::move(*keys));
 }
 

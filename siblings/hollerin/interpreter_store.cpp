@@ -34,7 +34,7 @@ template <class Predicate>
 bool StoredTextIs(IConfigDataMgr& store, Predicate isSo) {
   const auto* const own = dynamic_cast<const ConfigStore*>(&store);
   const std::wstring* const text = own != nullptr ? own->FindText(kSection, kList) : nullptr;
-  return isSo(text != nullptr ? *text : StoredText(store));
+  return text != nullptr ? isSo(*text) : isSo(StoredText(store));
 }
 
 /// Makes `text` the stored one.
@@ -72,7 +72,7 @@ void ReplaceList(IConfigDataMgr& store, std::wstring text) {
   };
   if (StoredTextIs(store, says)) return;
   const auto isDamaged = [](const std::wstring& before) {
-    return !before.empty() && !IsInterpreterText(before);
+    return !before.empty() && !VisitInterpreters(before, [](const InterpreterView&) {});
   };
   if (StoredTextIs(store, isDamaged)) PutAside(store, StoredText(store));
   StoreText(store, std::move(text));

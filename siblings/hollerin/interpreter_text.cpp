@@ -63,23 +63,6 @@ bool ReadEntry(CountedReader<wchar_t>& reader, InterpreterView& entry) {
   return true;
 }
 
-/// Gives every entry to `take`; false when the text is damaged.
-template <class Take>
-bool ReadAll(std::wstring_view text, Take take) {
-  const std::optional<std::uint64_t> sum = TakeSum(text);
-  if (!sum || *sum != Checksum(text)) return false;
-  if (!text.starts_with(kMagic) || !text.ends_with(L'E')) return false;
-  text.remove_prefix(kMagic.size());
-  text.remove_suffix(1);
-  CountedReader<wchar_t> reader(text);
-  while (!reader.AtEnd()) {
-    InterpreterView entry;
-    if (!ReadEntry(reader, entry)) return false;
-    take(entry);
-  }
-  return true;
-}
-
 }  // namespace
 
 std::size_t InterpreterLength(const InterpreterView& entry) {
@@ -115,18 +98,28 @@ std::wstring FormatInterpreters(const std::vector<InterpreterView>& entries) {
   return writer.Finish();
 }
 
-std::optional<std::vector<InterpreterView>> ParseInterpreters(std::wstring_view text) {
-  constexpr std::size_t kUsualLength = 128;
-  std::vector<InterpreterView> entries;
-  entries.reserve(text.size() / kUsualLength);
-  if (!ReadAll(text, [&entries](const auto& entry) { entries.push_back(entry); })) {
-    return std::nullopt;
+bool VisitInterpreters(std::wstring_view text,
+                       const std::function<void(const InterpreterView&)>& visit) {
+  const std::optional<std::uint64_t> sum = TakeSum(text);
+  if (!sum || *sum != Checksum(text)) return false;
+  if (!text.starts_with(kMagic) || !text.ends_with(L'E')) return false;
+  text.remove_prefix(kMagic.size());
+  text.remove_suffix(1);
+  CountedReader<wchar_t> reader(text);
+  while (!reader.AtEnd()) {
+    InterpreterView entry;
+    if (!ReadEntry(reader, entry)) return false;
+    visit(entry);
   }
-  return entries;
+  return true;
 }
 
-bool IsInterpreterText(std::wstring_view text) {
-  return ReadAll(text, [](const auto&) {});
+std::optional<std::vector<InterpreterView>> ParseInterpreters(std::wstring_view text) {
+  std::vector<InterpreterView> entries;
+  entries.reserve(UsualCount(text.size()));
+  const auto add = [&entries](const InterpreterView& entry) { entries.push_back(entry); };
+  if (!VisitInterpreters(text, add)) return std::nullopt;
+  return entries;
 }
 
 }  // namespace HOLLERIN

@@ -9,6 +9,7 @@
 //
 // where each text is a length in decimal, ":" and that many characters.
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -35,11 +36,19 @@ class InterpreterWriter {
 
 std::wstring FormatInterpreters(const std::vector<InterpreterView>& entries);
 
-/// The entries in their order, several with one key among them, as parts of the text; nothing when
-/// the text is damaged: cut off, or any one character changed, missing or added.
+/// Shows the entries in their order, several with one key among them, as parts of the text. False
+/// when the text is damaged: cut off, or any one character changed, missing or added; whatever was
+/// shown then is worth nothing.
+bool VisitInterpreters(std::wstring_view text,
+                       const std::function<void(const InterpreterView&)>& visit);
+
+/// All entries; nothing when the text is damaged.
 std::optional<std::vector<InterpreterView>> ParseInterpreters(std::wstring_view text);
 
-/// Whether the text is none that is damaged.
-bool IsInterpreterText(std::wstring_view text);
+/// A good guess at the number of entries in a text of that length.
+constexpr std::size_t UsualCount(std::size_t length) {
+  constexpr std::size_t kUsualLength = 128;
+  return length / kUsualLength;
+}
 
 }  // namespace HOLLERIN

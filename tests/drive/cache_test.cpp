@@ -16,8 +16,10 @@ class CacheDialog : public testing::Test {
     for (const char* name : {"old", "new"}) std::filesystem::create_directory(data_ / name);
     TextCache cache;
     EXPECT_TRUE(cache.Open(Database("old")));
+    constexpr int kTexts = 2000;
     std::vector<CachedText> texts;
-    for (int n = 0; n < 2000; ++n) {
+    texts.reserve(kTexts);
+    for (int n = 0; n < kTexts; ++n) {
       texts.push_back({{std::to_wstring(n), n, n}, std::wstring(2000, L'x')});
     }
     EXPECT_TRUE(cache.Put(texts));

@@ -82,10 +82,9 @@ BOOL CConfigurationMain::OnInitDialog() {
   EnableLayout();
   AdjustControlsLayout();
   SetUpTree();
-  RunReported([this] {
-    BuildPageTree();
-    SelectInitialPage();
-  });
+  RunReported([this] { BuildPageTree(); });
+  // Also when the tree could not be completed.
+  RunReported([this] { SelectInitialPage(); });
   return TRUE;
 }
 
@@ -97,7 +96,7 @@ void CConfigurationMain::SetUpTree() {
 
 void CConfigurationMain::BuildPageTree() {
   const ScopedFlag rebuilding(rebuilding_);
-  initialItem_ = BuildTree(tree_, *this, *root_, TVI_ROOT, initialPageId_);
+  BuildTree(tree_, *this, *root_, TVI_ROOT, initialPageId_, initialItem_);
 }
 
 void CConfigurationMain::SelectInitialPage() {
@@ -192,7 +191,7 @@ void CConfigurationMain::RebuildChildren(HTREEITEM item) {
   INTERNAL_IFC::IConfigEntry* entry = EntryOf(tree_, item);
   tree_.Expand(item, TVE_COLLAPSE | TVE_COLLAPSERESET);
   if (auto* group = dynamic_cast<INTERNAL_IFC::IConfigParent*>(entry)) {
-    BuildTree(tree_, *this, *group, item, initialPageId_);
+    BuildTree(tree_, *this, *group, item, initialPageId_, initialItem_);
   }
   tree_.Expand(item, TVE_EXPAND);
   if (tree_.GetSelectedItem() == selected || entry == nullptr) return;

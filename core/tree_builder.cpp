@@ -22,9 +22,8 @@ HTREEITEM InsertEntry(CTreeCtrl& tree, IConfigEntry& entry, HTREEITEM under) {
 
 }  // namespace
 
-HTREEITEM BuildTree(CTreeCtrl& tree, INTERNAL_IFC::IObserver& observer, IConfigParent& parent,
-                    HTREEITEM under, std::int32_t pageId) {
-  HTREEITEM found = nullptr;
+void BuildTree(CTreeCtrl& tree, INTERNAL_IFC::IObserver& observer, IConfigParent& parent,
+               HTREEITEM under, std::int32_t pageId, HTREEITEM& found) {
   std::vector<std::shared_ptr<IConfigEntry>> children;
   parent.GetChildren(children);
   for (const std::shared_ptr<IConfigEntry>& child : children) {
@@ -34,9 +33,8 @@ HTREEITEM BuildTree(CTreeCtrl& tree, INTERNAL_IFC::IObserver& observer, IConfigP
       publisher->Subscribe(&observer, std::make_shared<CTreeViewParms>(item));
     }
     if (auto* group = dynamic_cast<IConfigParent*>(child.get())) {
-      if (const HTREEITEM below = BuildTree(tree, observer, *group, item, pageId)) found = below;
+      BuildTree(tree, observer, *group, item, pageId, found);
     }
     tree.Expand(item, TVE_EXPAND);
   }
-  return found;
 }

@@ -23,7 +23,9 @@ class CTreeViewParms : public INTERNAL_IFC::IObserverParms {
 INTERNAL_IFC::IConfigEntry* EntryOf(const CTreeCtrl& tree, HTREEITEM item);
 
 /// Adds an expanded item for every child of `parent`, all levels, behind the children that `under`
-/// has already. Entries that publish changes get `observer` as their observer. Returns the item of
-/// the last entry with that page id, or null. The entries must live as long as the items.
-HTREEITEM BuildTree(CTreeCtrl& tree, INTERNAL_IFC::IObserver& observer,
-                    INTERNAL_IFC::IConfigParent& parent, HTREEITEM under, std::int32_t pageId);
+/// has already. Entries that publish changes get `observer` as their observer. `found` becomes the
+/// item of the last entry with that page id and stays what it was without one; when a group cannot
+/// list its children, it is the last one met before. The entries must live as long as the items.
+void BuildTree(CTreeCtrl& tree, INTERNAL_IFC::IObserver& observer,
+               INTERNAL_IFC::IConfigParent& parent, HTREEITEM under, std::int32_t pageId,
+               HTREEITEM& found);

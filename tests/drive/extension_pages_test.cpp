@@ -207,6 +207,16 @@ TEST_F(ExtensionPages, AFailedResetIsReportedAndKeepsThePage) {
   }
 }
 
+TEST_F(ExtensionPages, AListThatCannotBeReadIsReportedAndTheOtherPagesCanBeUsed) {
+  Start({{"ifilters", Json::array()}, {"fails", {"GetAt"}}});
+  session_->Do({{"do", "open"}, {"entry", "OpenConfigDialog"}, {"page", 27}});
+  EXPECT_NE(session_->Top()["text"].get<std::string>().find("Getting config for entry into list"),
+            std::string::npos);
+  Press("OK");
+  EXPECT_EQ(session_->Top()["page"]["template"], 5553);
+  EXPECT_EQ(session_->End(kCancel), 1);
+}
+
 TEST_F(ExtensionPages, AListThatCannotBeSavedKeepsTheDialogOpen) {
   Start({{"ifilters", Json::array()}, {"fails", {"SaveConfigInterpreterList"}}});
   session_->Open();

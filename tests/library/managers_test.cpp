@@ -217,7 +217,8 @@ TEST_F(ManagersTest, TheTreeHoldsEveryEntryAndTheLastMatchIsFound) {
   CTreeCtrl tree;
   ASSERT_TRUE(tree.SubclassDlgItem(IDC_PAGE_TREE, &host));
   IgnoringObserver observer;
-  const HTREEITEM found = BuildTree(tree, observer, root, TVI_ROOT, 7);
+  HTREEITEM found = nullptr;
+  BuildTree(tree, observer, root, TVI_ROOT, 7, found);
   const HTREEITEM group = tree.GetRootItem();
   ASSERT_NE(group, nullptr);
   EXPECT_EQ(tree.GetItemText(group), L"group");

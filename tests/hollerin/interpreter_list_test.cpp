@@ -18,7 +18,7 @@ using namespace HOLLERIN;
 using Entries = std::vector<InterpreterEntry>;
 using EntryHandle = std::shared_ptr<INTERNAL_IFC::IConfigInterpreter>;
 
-InterpreterEntry Entry(std::wstring key, std::wstring type, bool enabled = true) {
+InterpreterEntry Entry(const std::wstring& key, std::wstring type, bool enabled = true) {
   return {L"name of " + key, key, L"x", L"", std::move(type), enabled, false, false, false};
 }
 

@@ -44,7 +44,7 @@ TYPED_TEST(StoreText, FindsEveryCutChangeAndAddition) {
 }
 
 /// The text with a right checksum behind it, as a forger would make it.
-std::string Seal(std::string text) {
+std::string Seal(const std::string& text) {
   std::uint64_t sum = 0xCBF29CE484222325U;
   for (const char c : text) sum = (sum ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
   char digits[17];

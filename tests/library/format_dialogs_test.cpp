@@ -1,5 +1,6 @@
 // The dialogs that choose formats: the order of what they write, failures on the way, no store.
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
 

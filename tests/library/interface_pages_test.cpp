@@ -1,5 +1,6 @@
 // The pages of the main window, of the language and of colours: what is theirs alone.
 
+#include <QAbstractButton>
 #include <set>
 
 #include "environment.h"

@@ -18,7 +18,7 @@ constexpr LabelRow kLabels[] = {
     {4, 10, nullptr}, {2, 0, L"Fixed"}, {4, 11, nullptr}, {-3, 11, nullptr}};
 
 std::shared_ptr<FakeLanguage> TwoTexts() {
-  const auto language = std::make_shared<FakeLanguage>();
+  auto language = std::make_shared<FakeLanguage>();
   language->strings = {{10, L"Ten"}, {11, L"Eleven"}};
   language->placeholders = {{{5536, 9}, L"Nine"}};
   return language;

@@ -2,6 +2,7 @@
 
 #include "core/main_dialog.h"
 
+#include <QAbstractButton>
 #include <algorithm>
 
 #include "core/config_entry_generic.h"
